@@ -1,0 +1,104 @@
+// See AdaString.h.  A text becomes a chain of pieces, one to a line: runs of printable characters
+// in quotes, and each other character by its code.  The closing zero of the text is the last piece,
+// so that the bindings can hand the Ada string to C.
+
+#include "AdaString.h"
+
+#include "AdaArgument.h"
+#include "Emit.h"
+#include "Error.h"
+#include "Options.h"
+
+namespace {
+
+constexpr unsigned char kFirstPrintable = 32;
+constexpr unsigned char kLastPrintable = 126;
+constexpr unsigned char kLastAscii = 127;
+
+// An expression being built.
+struct StringExpression {
+  std::string text;
+  bool in_quote = false; // a quoted run is open
+  std::string message;   // the report of the first character that Ada 83 lacks
+};
+
+} // namespace
+
+static bool IsPrintable(unsigned char c) { return c >= kFirstPrintable && c <= kLastPrintable; }
+
+static void BeginPiece(StringExpression *expression) {
+  if (!expression->text.empty()) {
+    expression->text += " &\n";
+  }
+}
+
+static void AppendPrintable(StringExpression *expression, char c) {
+  if (!expression->in_quote) {
+    BeginPiece(expression);
+    expression->text += "      \"";
+    expression->in_quote = true;
+  }
+  if (c == '"') {
+    expression->text += "\"\"";
+  } else {
+    expression->text += c;
+  }
+}
+
+// Every report of one text names the first such character.
+static void ReportUnrepresentable(StringExpression *expression, unsigned char c) {
+  if (expression->message.empty()) {
+    expression->message = ExpressionFormat("Character \\%03o\\ cannot be represented in Ada 83", c);
+  }
+  ErrorMessage(kImmediate, expression->message.c_str());
+}
+
+static void AppendCode(StringExpression *expression, unsigned char c) {
+  if (expression->in_quote) {
+    expression->text += '"';
+    expression->in_quote = false;
+  }
+  BeginPiece(expression);
+  if (ada95 || c <= kLastAscii) {
+    expression->text += ExpressionFormat("      character'val( %3u )", c);
+  } else {
+    ReportUnrepresentable(expression, c);
+    expression->text += "      '~'";
+  }
+}
+
+std::string string_value_expr(const char *text) {
+  if (text == nullptr || *text == '\0') {
+    return "      \"\" & character'val( 0 )";
+  }
+  StringExpression expression;
+  for (const char *next = text;; ++next) {
+    const auto c = static_cast<unsigned char>(*next);
+    if (IsPrintable(c)) {
+      AppendPrintable(&expression, *next);
+    } else {
+      AppendCode(&expression, c);
+    }
+    if (c == '\0') {
+      return expression.text;
+    }
+  }
+}
+
+std::string string_varname(int n) { return ExpressionFormat("string_%d", n); }
+
+std::string string_varptr(int n) { return ExpressionFirstAddress(string_varname(n)); }
+
+void string_declare(const KindRec *value, const NamedSetting *argument, std::FILE *file, int n) {
+  const char *text = static_cast<const StringValue *>(value)->value;
+  argument_declare(argument, file, n);
+  Emit(file,
+       "    %s : constant string :=\n"
+       "%s;\n",
+       string_varname(n).c_str(), string_value_expr(text).c_str());
+}
+
+void string_setarg(const KindRec * /*value*/, const NamedSetting *argument, std::FILE *file,
+                   int n) {
+  argument_setarg(string_varptr(n).c_str(), argument, file, n);
+}

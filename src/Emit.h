@@ -1,0 +1,13 @@
+#ifndef KIVUXL_EMIT_H
+#define KIVUXL_EMIT_H
+
+// The one writer of generated text.  A template stands in the source as it comes out, one line of
+// output per source line; the compiler checks its arguments.
+
+#include <cstdio>
+
+// Writes the formatted text.  Failures stay in the stream's error indicator, which whoever closes
+// the unit checks.
+void Emit(std::FILE *file, const char *format, ...) __attribute__((format(printf, 2, 3)));
+
+#endif

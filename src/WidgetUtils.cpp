@@ -1,0 +1,468 @@
+// See WidgetUtils.h.  A widget's lists are opened with a stack of positions instead of recursion,
+// because the depth of list references is the user's; the result is made in one pass.  Whatever
+// compares names follows the module's case rule.
+
+#include "WidgetUtils.h"
+
+#include <algorithm>
+#include <limits>
+#include <unordered_set>
+#include <vector>
+
+#include "AdaArgument.h"
+#include "Alloc.h"
+#include "Ascii.h"
+#include "Error.h"
+#include "Filename.h"
+#include "Model.h"
+#include "Options.h"
+
+// Beside the Ada interface, the only value of `interface_type` for which names are made legal.
+constexpr int kInterfaceReserved = 3;
+
+static bool SameName(const char *left, const char *right) {
+  return SafeStrcmp(left, right, case_sensitive ? 1 : 0) == 0;
+}
+
+static bool EndsWithName(std::string_view text, std::string_view suffix) {
+  if (!case_sensitive) {
+    return AsciiEndsWithNoCase(text, suffix);
+  }
+  return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
+}
+
+// -- References --------------------------------------------------------------------------------
+
+// Names of which it has been said that they mean no widget, folded when case does not matter.
+static std::unordered_set<std::string> reported_names;
+
+static bool IsFirstReport(const char *name) {
+  std::string key = name;
+  if (!case_sensitive) {
+    AsciiLowerInPlace(key);
+  }
+  return reported_names.insert(std::move(key)).second;
+}
+
+bool WidgetIsDefined(const WidgetDef *widget) {
+  return widget != nullptr && widget->attribs != nullptr;
+}
+
+const WidgetDef *WidgetOrigin(const WidgetDef *widget) {
+  return widget->origin == nullptr ? widget : widget->origin;
+}
+
+// The definition bound to the name, or null after a message.
+static const WidgetDef *FindDefinition(const char *name) {
+  const SimpleObjectRec *entry = SymbolFind(name);
+  if (entry != nullptr && entry->kind != WIDGET_NAME && entry->kind != WIDGET_DEF) {
+    if (IsFirstReport(name)) {
+      ErrorFormat(kImmediate, "Object %s is not a widget", name);
+    }
+    return nullptr;
+  }
+  if (entry != nullptr && WidgetIsDefined(static_cast<const WidgetValue *>(entry)->value)) {
+    return static_cast<const WidgetValue *>(entry)->value;
+  }
+  if (IsFirstReport(name)) {
+    ErrorFormat(kImmediate, "Reference to undefined object %s", name);
+  }
+  return nullptr;
+}
+
+const WidgetDef *WidgetResolve(WidgetRef *reference) {
+  if (reference->resolved == nullptr) {
+    const WidgetDef *definition = FindDefinition(reference->name);
+    if (definition == nullptr) {
+      return nullptr;
+    }
+    reference->resolved = ModelCopy(*definition);
+    reference->resolved->managed = reference->managed;
+    reference->resolved->origin = definition;
+  }
+  return reference->resolved;
+}
+
+// -- Flattening --------------------------------------------------------------------------------
+
+// What tells one sort of list from the others: the kinds that stand for a list inside it, what
+// becomes of any other item, and the complaint when it opens into too much.
+struct FlatRules {
+  std::int32_t list_kind;
+  std::int32_t list_name_kind;
+  KindRec *(*keep)(KindRec *item);
+  const char *overflow;
+};
+
+static KindRec *KeepItem(KindRec *item) { return item; }
+
+static KindRec *KeepControl(KindRec *item) {
+  switch (item->kind) {
+  case WIDGET_NAME:
+  case WIDGET_DEF:
+  case AUTO_CREATED_DEF:
+    return item;
+  case WIDGET_REF: {
+    auto *reference = static_cast<WidgetRef *>(item);
+    return WidgetResolve(reference) == nullptr ? item : reference->resolved;
+  }
+  default:
+    ErrorFormat(kImmediate, "Internal error, object of unexpected type %d in controls list",
+                item->kind);
+    return item;
+  }
+}
+
+static constexpr FlatRules kArgumentRules = {ARGUMENTS_LIST, ARGUMENTS_LIST_NAME, KeepItem,
+                                             "Too many arguments in"};
+static constexpr FlatRules kCallbackRules = {CALLBACKS_LIST, CALLBACKS_LIST_NAME, KeepItem,
+                                             "Too many callbacks in"};
+static constexpr FlatRules kControlRules = {CONTROLS_LIST, CONTROLS_LIST_NAME, KeepControl,
+                                            "Too many controls below"};
+
+// The items of `source` with each list in it replaced by its own items, to any depth.
+static List Flatten(const WidgetDef *widget, List source, const FlatRules &rules) {
+  FlatList flat(ModelList());
+  std::vector<const ListItem *> open = {ListFirstNode(source)}; // what is still to do, per list
+  int opened = 0;
+  while (!open.empty()) {
+    const ListItem *node = open.back();
+    if (node == nullptr) {
+      open.pop_back();
+      continue;
+    }
+    open.back() = node->next;
+    if (++opened > kMaxFlatItems) {
+      FatalErrorFormat("%s %s", rules.overflow, widget->name);
+    }
+    auto *item = static_cast<KindRec *>(node->data);
+    if (item->kind == rules.list_kind || item->kind == rules.list_name_kind) {
+      open.push_back(ListFirstNode(static_cast<UnionList *>(item)->value));
+    } else {
+      ModelAppend(flat.get(), rules.keep(item));
+    }
+  }
+  return flat.release();
+}
+
+List WidgetFlatArgumentsList(const WidgetDef *widget) {
+  return Flatten(widget, widget == nullptr ? nullptr : widget->args, kArgumentRules);
+}
+
+List WidgetFlatCallbacksList(const WidgetDef *widget) {
+  return Flatten(widget, widget == nullptr ? nullptr : widget->cbs, kCallbackRules);
+}
+
+List WidgetFlatControlsList(const WidgetDef *widget) {
+  return Flatten(widget, widget == nullptr ? nullptr : widget->ctls, kControlRules);
+}
+
+// -- Classes -----------------------------------------------------------------------------------
+
+static bool IsOfClass(const WidgetDef *widget, const char *class_name) {
+  return widget != nullptr && widget->type != nullptr && SameName(widget->type->name, class_name);
+}
+
+bool WidgetChildrenFirst(const WidgetDef *widget) {
+  return IsOfClass(widget, "XmCascadeButton") || IsOfClass(widget, "XmOptionMenu");
+}
+
+bool WidgetChildrenAreGadgets(const WidgetDef *widget) { return IsOfClass(widget, "XmOptionMenu"); }
+
+bool ReasonIsCreateCallback(const char *reason) { return SameName(reason, "MrmNcreateCallback"); }
+
+// -- Shells ------------------------------------------------------------------------------------
+
+struct TextPair {
+  const char *key;
+  const char *text;
+};
+
+static constexpr char kApplicationShell[] = "applicationShell";
+static constexpr char kTopLevelShell[] = "topLevelShell";
+
+// Ends of class names that ask for a shell of their own.
+static constexpr TextPair kShellBySuffix[] = {
+    {"Dialog", "dialogShell"},
+    {"Menu", "menuShell"},
+    {"MenuBar", "menuShell"},
+};
+
+// What is put behind a widget's name to name its shell.
+static constexpr TextPair kShellNameSuffix[] = {
+    {"dialogShell", "_popup"},
+    {"menuShell", "_menu"},
+    {kApplicationShell, "_appl"},
+};
+static constexpr char kOtherShellSuffix[] = "_shell";
+
+static bool HasApplicationShell() {
+  for (const ListItem *node = ListFirstNode(shellinfo); node != nullptr; node = node->next) {
+    if (SameName(static_cast<const Kivu_ShellInfo *>(node->data)->shellClass, kApplicationShell)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+static const char *DeduceShell(const WidgetDef *widget, bool has_application) {
+  if (widget == nullptr || widget->name == nullptr || widget->type == nullptr ||
+      widget->type->name == nullptr) {
+    ErrorMessage(kImmediate, "Internal error: No name or class for top-level widget");
+    return "";
+  }
+  const std::string_view class_name = widget->type->name;
+  for (const TextPair &row : kShellBySuffix) {
+    const std::string_view suffix = row.key;
+    if (class_name.size() > suffix.size() && EndsWithName(class_name, suffix)) {
+      return row.text;
+    }
+  }
+  return has_application ? kTopLevelShell : kApplicationShell;
+}
+
+const char *DeduceShellForTopLevel(const WidgetDef *widget) {
+  return DeduceShell(widget, HasApplicationShell());
+}
+
+static const char *ShellNameSuffix(std::string_view shell_class) {
+  for (const TextPair &row : kShellNameSuffix) {
+    if (shell_class == row.key) {
+      return row.text;
+    }
+  }
+  return kOtherShellSuffix;
+}
+
+static const void *ShellInfoKey(void *item) {
+  return static_cast<const Kivu_ShellInfo *>(item)->childName;
+}
+
+static void PrepareShellInfo() {
+  if (shellinfo == nullptr) {
+    shellinfo = ModelList();
+  }
+  shellinfo->compare = case_sensitive ? ListCompareCaseSensitive : ListCompareCaseInsensitive;
+  shellinfo->keyproc = ShellInfoKey;
+}
+
+static Kivu_ShellInfo *NewShellInfo(const WidgetDef *widget, const char *shell_class) {
+  auto *info = ModelNew<Kivu_ShellInfo>(0);
+  info->childName = widget->name;
+  info->shellClass = shell_class;
+  info->shellName = ModelText((widget->name == nullptr ? "" : widget->name) +
+                              std::string(ShellNameSuffix(shell_class)));
+  info->pkgName = ModelText(package_base);
+  return info;
+}
+
+void AppendShellsForTopLevel() {
+  if (ListLength(top_level_objects) == 0) {
+    return;
+  }
+  PrepareShellInfo();
+  bool has_application = HasApplicationShell(); // kept up here: asking each time is quadratic
+  for (const ListItem *node = ListFirstNode(top_level_objects); node != nullptr;
+       node = node->next) {
+    const auto *widget = static_cast<const WidgetDef *>(node->data);
+    if (ListFindFirst(shellinfo, widget->name) != nullptr) {
+      continue; // the user's own choice
+    }
+    const char *shell_class = DeduceShell(widget, has_application);
+    has_application = has_application || SameName(shell_class, kApplicationShell);
+    ModelAppend(shellinfo, NewShellInfo(widget, shell_class));
+  }
+}
+
+// -- Automatically created children ------------------------------------------------------------
+
+// The Motif function that gives a child of a widget of that class; null: there is none.
+static constexpr TextPair get_child_fn_name[] = {
+    {"XmErrorDialog", "XmMessageBoxGetChild"},
+    {"XmFileSelectionBox", "XmFileSelectionBoxGetChild"},
+    {"XmFileSelectionDialog", "XmFileSelectionBoxGetChild"},
+    {"XmInformationDialog", "XmMessageBoxGetChild"},
+    {"XmMainWindow", nullptr},
+    {"XmMessageBox", "XmMessageBoxGetChild"},
+    {"XmMessageDialog", "XmMessageBoxGetChild"},
+    {"XmOptionMenu", nullptr},
+    {"XmPromptDialog", "XmSelectionBoxGetChild"},
+    {"XmPulldownMenu", nullptr},
+    {"XmQuestionDialog", "XmMessageBoxGetChild"},
+    {"XmScale", nullptr},
+    {"XmScrolledList", nullptr},
+    {"XmScrolledText", nullptr},
+    {"XmScrolledWindow", nullptr},
+    {"XmSelectionBox", "XmSelectionBoxGetChild"},
+    {"XmSelectionDialog", "XmSelectionBoxGetChild"},
+    {"XmTemplateDialog", "XmMessageBoxGetChild"},
+    {"XmWarningDialog", "XmMessageBoxGetChild"},
+    {"XmWorkingDialog", "XmMessageBoxGetChild"},
+};
+
+// The Motif constant of a child by its UIL name.  The filter button of a file selection box is its
+// apply button.
+static constexpr TextPair get_child_arg_name[] = {
+    {"Xm_Apply", "XmDIALOG_APPLY_BUTTON"},
+    {"Xm_Cancel", "XmDIALOG_CANCEL_BUTTON"},
+    {"Xm_Dir", "XmDIALOG_DIR_LIST_LABEL"},
+    {"Xm_DirList", "XmDIALOG_DIR_LIST"},
+    {"Xm_Filter", "XmDIALOG_APPLY_BUTTON"},
+    {"Xm_FilterLabel", "XmDIALOG_FILTER_LABEL"},
+    {"Xm_FilterText", "XmDIALOG_FILTER_TEXT"},
+    {"Xm_Help", "XmDIALOG_HELP_BUTTON"},
+    {"Xm_HorScrollBar", nullptr},
+    {"Xm_Items", "XmDIALOG_LIST_LABEL"},
+    {"Xm_ItemsList", "XmDIALOG_LIST"},
+    {"Xm_Message", "XmDIALOG_MESSAGE_LABEL"},
+    {"Xm_OK", "XmDIALOG_OK_BUTTON"},
+    {"Xm_OptionButton", nullptr},
+    {"Xm_OptionLabel", nullptr},
+    {"Xm_Selection", "XmDIALOG_SELECTION_LABEL"},
+    {"Xm_Separator", "XmDIALOG_SEPARATOR"},
+    {"Xm_Separator1", nullptr},
+    {"Xm_Separator2", nullptr},
+    {"Xm_Separator3", nullptr},
+    {"Xm_Symbol", "XmDIALOG_SYMBOL_LABEL"},
+    {"Xm_TearOffControl", nullptr},
+    {"Xm_Text", "XmDIALOG_TEXT"},
+    {"Xm_Title", nullptr},
+    {"Xm_VertScrollBar", nullptr},
+};
+
+template <std::size_t Count>
+static const char *FindPair(const TextPair (&table)[Count], const char *key) {
+  for (const TextPair &row : table) {
+    if (SameName(key, row.key)) {
+      return row.text;
+    }
+  }
+  return nullptr;
+}
+
+const char *NameOfGetChildFunction(const char *class_name) {
+  return FindPair(get_child_fn_name, class_name);
+}
+
+const char *NameOfGetChildArgument(const char *child_name) {
+  return FindPair(get_child_arg_name, child_name);
+}
+
+// -- Counts ------------------------------------------------------------------------------------
+
+int WidgetCountArguments(List arguments) {
+  int count = 0;
+  for (const ListItem *node = ListFirstNode(arguments); node != nullptr; node = node->next) {
+    const char *name = static_cast<const ArgumentInvoke *>(node->data)->name;
+    count += argument_paired_arg(name) == nullptr ? 1 : 2;
+  }
+  return count;
+}
+
+int WidgetCountChildren(List controls) { return static_cast<int>(ListLength(controls)); }
+
+int WidgetCountCallbacks(List callbacks) {
+  std::int64_t count = 0; // lists are shared, so there may be more than an int counts
+  for (const ListItem *node = ListFirstNode(callbacks); node != nullptr; node = node->next) {
+    count += ListLength(static_cast<const CallbackValue *>(node->data)->value);
+  }
+  return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
+}
+
+constexpr std::int64_t kLargestCount = std::numeric_limits<std::int64_t>::max();
+
+static std::int64_t CountControl(const KindRec *control) {
+  switch (control->kind) {
+  case WIDGET_NAME:
+  case WIDGET_DEF:
+  case AUTO_CREATED_DEF:
+    return WidgetCountHierarchy(static_cast<const WidgetDef *>(control));
+  default:
+    return 1;
+  }
+}
+
+static std::int64_t CountTree(const WidgetDef *widget) {
+  const FlatList controls(WidgetFlatControlsList(widget));
+  std::int64_t total = 1;
+  for (const ListItem *node = ListFirstNode(controls.get()); node != nullptr; node = node->next) {
+    const std::int64_t below = CountControl(static_cast<const KindRec *>(node->data));
+    total = below > kLargestCount - total ? kLargestCount : total + below;
+  }
+  return total;
+}
+
+std::int64_t WidgetCountHierarchy(const WidgetDef *widget) {
+  // The remembered size is the one thing that asking changes in the model.
+  auto *counted = const_cast<WidgetDef *>(WidgetOrigin(widget));
+  if (counted->hierarchy == 0) {
+    counted->hierarchy = kLargestCount; // what is found by whoever gets back here in a ring
+    counted->hierarchy = CountTree(counted);
+  }
+  return counted->hierarchy;
+}
+
+// -- Procedures --------------------------------------------------------------------------------
+
+static bool IsProcedureUsedAs(std::int32_t usage) {
+  for (const ListItem *node = ListFirstNode(unbound_procedures); node != nullptr;
+       node = node->next) {
+    if (static_cast<const ProcedureName *>(node->data)->usage == usage) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool WidgetsAreUserDefined() { return IsProcedureUsedAs(CREATE_PROC); }
+
+bool AtLeastOneCallback() { return IsProcedureUsedAs(CALLBACK_PROC); }
+
+void DropUnusedProcedures() {
+  ListInitTraverse(unbound_procedures);
+  while (const auto *proc = ListNext<ProcedureName>(unbound_procedures)) {
+    if (proc->usage == NIL) {
+      ListDeleteItem(unbound_procedures, proc->name);
+    }
+  }
+}
+
+// -- Names -------------------------------------------------------------------------------------
+
+// Takes out underscores at the start and the second of each pair.  The character behind one that
+// is taken out is kept unseen, so that of three underscores two stay.
+static std::string DropUnderscores(std::string_view name) {
+  std::string result;
+  result.reserve(name.size());
+  bool after_underscore = true;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    if (name[i] != '_') {
+      after_underscore = false;
+    } else if (after_underscore) {
+      ++i;
+    } else {
+      after_underscore = true;
+    }
+    if (i < name.size()) {
+      result += name[i];
+    }
+  }
+  return result;
+}
+
+std::string LegalName(std::string_view name) {
+  std::string result(name);
+  if (interface_type != kInterfaceOrvo && interface_type != kInterfaceReserved) {
+    return result;
+  }
+  for (char &c : result) {
+    c = AsciiIsAlnum(c) ? AsciiToLower(c) : '_';
+  }
+  result = DropUnderscores(result);
+  if (!result.empty() && result.back() == '_') {
+    result.pop_back();
+  }
+  return result;
+}
+
+void WidgetUtilsReset() { reported_names.clear(); }

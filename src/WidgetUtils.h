@@ -1,0 +1,76 @@
+#ifndef KIVUXL_WIDGETUTILS_H
+#define KIVUXL_WIDGETUTILS_H
+
+// Questions about the widget tree: what a widget's arguments, callbacks and children are once
+// every reference has been opened, which shell it lives in, how large things are, and how a UIL
+// name becomes an Ada identifier.  Nothing here writes output.
+//
+// The flattening functions return a new list that the caller destroys with ListDestroy; its items
+// belong to the model.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "uiltoada.h"
+
+// Holds a flattened list and destroys it at the end of its scope.
+struct ListDestroyer {
+  void operator()(List list) const { ListDestroy(list); }
+};
+using FlatList = std::unique_ptr<ListHeader, ListDestroyer>;
+
+// A list may name another one twice, and that one again, so that a short module opens into more
+// items than any memory holds.  Opening more than this for one widget ends the run with status 1.
+constexpr int kMaxFlatItems = 2000000;
+
+// Null gives an empty list.  In the controls, references are resolved; one that cannot be stays in
+// the list as WIDGET_REF.
+List WidgetFlatArgumentsList(const WidgetDef *widget);
+List WidgetFlatCallbacksList(const WidgetDef *widget);
+List WidgetFlatControlsList(const WidgetDef *widget);
+
+// The definition that a reference stands for: a copy, made once for each reference, whose `managed`
+// is the reference's.  Null, after an immediate message that is given once for each name, when
+// the name is not defined or is no widget's.
+const WidgetDef *WidgetResolve(WidgetRef *reference);
+
+bool WidgetChildrenFirst(const WidgetDef *widget);
+bool WidgetChildrenAreGadgets(const WidgetDef *widget);
+bool ReasonIsCreateCallback(const char *reason);
+
+// Whether the definition has been given; a forward reference alone is bound to an empty one.
+bool WidgetIsDefined(const WidgetDef *widget);
+
+// The definition that an item of a flattened controls list stands for: the item itself, or what a
+// resolved reference copies.  Two items of one definition share it.
+const WidgetDef *WidgetOrigin(const WidgetDef *widget);
+
+// The shell class for a top-level widget (a constant).
+const char *DeduceShellForTopLevel(const WidgetDef *widget);
+void AppendShellsForTopLevel();
+
+// Constants of the tables, or null.
+const char *NameOfGetChildFunction(const char *class_name);
+const char *NameOfGetChildArgument(const char *child_name);
+
+int WidgetCountArguments(List arguments);
+int WidgetCountChildren(List controls);
+int WidgetCountCallbacks(List callbacks);
+
+// The widget plus all its descendants, each as often as it is referred to; a reference that cannot
+// be resolved counts one.  Remembered per definition; saturates at the largest value, which is also
+// what a ring gives.
+std::int64_t WidgetCountHierarchy(const WidgetDef *widget);
+
+bool WidgetsAreUserDefined();
+bool AtLeastOneCallback();
+void DropUnusedProcedures();
+
+// The Ada identifier made from a UIL name; may be empty.
+std::string LegalName(std::string_view name);
+
+void WidgetUtilsReset();
+
+#endif

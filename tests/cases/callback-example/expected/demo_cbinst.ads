@@ -1,0 +1,6 @@
+with demo_cbproc;
+with demo_callbacks;
+procedure demo_cbinst is new
+  demo_cbproc(
+    quit_cb => demo_callbacks.quit_cb,
+    set_cb => demo_callbacks.set_cb );

@@ -1,0 +1,6 @@
+with demo_callbacks;
+with demo_uil;
+package demo is
+  package Widgets is new demo_uil(
+    make_graph => demo_callbacks.make_graph );
+end demo;

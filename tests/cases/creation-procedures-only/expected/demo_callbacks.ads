@@ -1,0 +1,10 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package demo_callbacks is
+  function make_graph(
+    parent : in xtr5.widget;
+    name   : in string;
+    args   : in xtr5.arglist;
+    nargs  : in xtr5.int ) return xtr5.widget;
+end demo_callbacks;

@@ -1,0 +1,17 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package demo_callbacks is
+  procedure menu_cb(
+      w           : in xtr5.widget;
+      client_data : in integer;
+      call_data   : in xtr5.pointer );
+  procedure map_cb(
+      w           : in xtr5.widget;
+      client_data : in xtr5.pointer;
+      call_data   : in xtr5.pointer );
+  procedure help_cb(
+      w           : in xtr5.widget;
+      client_data : in xtr5.pointer;
+      call_data   : in xtr5.pointer );
+end demo_callbacks;

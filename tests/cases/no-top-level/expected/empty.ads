@@ -1,0 +1,4 @@
+with empty_uil;
+package empty is
+  package Widgets renames empty_uil;
+end empty;

@@ -1,0 +1,36 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package demo_uil is
+  type a_parts is record
+    a : XtR5.Widget := XtR5.XtNULL;
+    left_label : XtR5.Widget := XtR5.XtNULL;
+    anon_xmseparator_1 : XtR5.Widget := XtR5.XtNULL;
+  end record;
+  a : a_parts;
+  function Create_a( parent : in XtR5.Widget )
+    return a_parts;
+  type b_parts is record
+    b : XtR5.Widget := XtR5.XtNULL;
+  end record;
+  b : b_parts;
+  function Create_b( parent : in XtR5.Widget )
+    return b_parts;
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr );
+  AppShell    : XtR5.Widget;
+  Shells      : XtR5.WidgetList( 1 .. 2 );
+  Child_Lists : array( 1 .. 2 ) of XtR5.WidgetList_Ptr;
+  Child_Names : constant XlibR5.StringList := (
+    1 => new String'( "a" ), 
+    2 => new String'( "b" ) );
+  Shell_Names : constant XlibR5.StringList := (
+    1 => new String'( "a_appl" ), 
+    2 => new String'( "b_shell" ) );
+  function Shell      return XtR5.Widget;
+  function Child_List return XtR5.WidgetList_Ptr;
+  function Child_Name return String;
+  function Shell_Name return String;
+end demo_uil;

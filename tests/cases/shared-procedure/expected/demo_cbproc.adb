@@ -1,0 +1,23 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with demo_client_data;
+use  demo_client_data;
+procedure demo_cbproc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer ) is
+begin
+  case client_data is
+    when 1 =>
+      press_cb(w, integer_1, call_data);
+    when 2 =>
+      press_cb(w, integer_2, call_data);
+    when 3 =>
+      press_cb(w, integer_3, call_data);
+    when 4 =>
+      press_cb(w, integer_4, call_data);
+    when others =>
+      null;
+  end case;
+end demo_cbproc;
