@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # What the scripts share: one line a step, and the packages that a step needs.  Sourced, not run;
 # leaves the shell in the project's top directory, under `set -euo pipefail`.
 
@@ -35,9 +35,9 @@ OnlyHelp() {
   esac
 }
 
-# Step log-name text command...: says the text, runs the command with its output in a log, and says
-# how long it took; when the command fails prints the log's end and ends the script.
-Step() {
+# TryStep log-name text command...: says the text, runs the command with its output in a log, and
+# says how long it took; when the command fails prints the log's end and returns 1.
+TryStep() {
   local log=$logs/$1.log text=$2 start=$SECONDS
   shift 2
   mkdir -p "$logs"
@@ -45,11 +45,14 @@ Step() {
   if "$@" >"$log" 2>&1 </dev/null; then
     printf 'done (%d s)\n' $((SECONDS - start))
   else
-    printf 'FAILED (%d s)\n' $((SECONDS - start))
-    tail -n 60 "$log" >&2
-    Fail "failed: $* (all output: $log)"
+    printf 'FAILED (%d s); all output: %s\n' $((SECONDS - start)) "${log#"$PWD/"}"
+    tail -n 200 "$log"
+    return 1
   fi
 }
+
+# TryStep, and the end of the script when that fails.
+Step() { TryStep "$@" || Fail "failed: ${*:3}"; }
 
 # Runs a command as root.
 AsRoot() {
@@ -61,9 +64,9 @@ AsRoot() {
 }
 
 AptInstall() {
-  AsRoot apt-get -o Acquire::Retries=3 update
-  AsRoot env DEBIAN_FRONTEND=noninteractive \
-    apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 install -y --no-install-recommends "$@"
+  AsRoot apt-get -o Acquire::Retries=3 update &&
+    AsRoot env DEBIAN_FRONTEND=noninteractive \
+      apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 install -y --no-install-recommends "$@"
 }
 
 # NeedPackages package...: installs those that are missing; calls no package tool but dpkg-query

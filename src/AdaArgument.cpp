@@ -76,14 +76,13 @@ const char *argument_object_type(std::int32_t kind) { return ValueObjectType(kin
 
 std::string ExpressionFormat(const char *format, ...) {
   std::va_list arguments;
-  std::va_list again;
   va_start(arguments, format);
-  va_copy(again, arguments);
   const int length = std::vsnprintf(nullptr, 0, format, arguments);
   va_end(arguments);
   std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
-  std::vsnprintf(text.data(), text.size() + 1, format, again);
-  va_end(again);
+  va_start(arguments, format);
+  std::vsnprintf(text.data(), text.size() + 1, format, arguments);
+  va_end(arguments);
   return text;
 }
 

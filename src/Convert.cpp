@@ -129,13 +129,14 @@ static bool CloseListing() {
   return closed || ReportBadListing();
 }
 
-// Removes an open listing, unless it goes to a device or pipe.
+// Removes an open listing, unless its name is a device's, a pipe's or a link's: /dev/stdout stays,
+// whatever it leads to.
 static void DropListing() {
   if (listing_fp == nullptr) {
     return;
   }
   struct stat status {};
-  const bool is_file = fstat(fileno(listing_fp), &status) == 0 && S_ISREG(status.st_mode);
+  const bool is_file = lstat(listing_filename->c_str(), &status) == 0 && S_ISREG(status.st_mode);
   std::fclose(listing_fp);
   listing_fp = nullptr;
   if (is_file) {

@@ -85,7 +85,7 @@ static void TakeItem(TreeWalk *walk, KindRec *item) {
   switch (item->kind) {
   case CONTROLS_LIST:
   case CONTROLS_LIST_NAME: {
-    const List items = static_cast<UnionList *>(item)->value;
+    List items = static_cast<UnionList *>(item)->value;
     if (items != nullptr) {
       Enter(walk, items, nullptr, items);
     }

@@ -33,8 +33,15 @@ GOOD = {
 }
 
 
+class LinkTo(str):
+    """The content of a part that is a symbolic link."""
+
+
 def write(path, content):
     os.makedirs(os.path.dirname(path), exist_ok=True)
+    if isinstance(content, LinkTo):
+        os.symlink(content, path)
+        return
     with open(path, "wb") as file:
         file.write(content if isinstance(content, bytes) else content.encode())
 
@@ -102,6 +109,11 @@ class RunCase(unittest.TestCase):
             "command": "kivuxl out err text 'test -d empty && test -p fifo && cat link'",
             "stdout": "out\n1\n"})
 
+    def test_a_link_in_the_input_stays_one(self):
+        self.assert_passes({"input/one": "1\n", "input/link": LinkTo("one"),
+                            "command": "kivuxl out err text 'readlink link'",
+                            "stdout": "out\none\n"})
+
     def test_a_background_job_of_the_setup_does_not_hold_the_run(self):
         self.assert_passes({"setup": "mkfifo fifo\ncat fifo &\n"})
 
@@ -163,6 +175,10 @@ class RunCase(unittest.TestCase):
     def test_file_that_became_a_link(self):
         self.assert_fails({"input/one": "1\n", "input/two": "1\n",
                            "command": "kivuxl out err text 'ln -sf two one'"}, "+one\n")
+
+    def test_link_that_points_elsewhere(self):
+        self.assert_fails({"input/one": "1\n", "input/two": "1\n", "input/link": LinkTo("one"),
+                           "command": "kivuxl out err text 'ln -sf two link'"}, "+link\n")
 
     def test_wrong_contents(self):
         self.assert_fails({"expected/made": "other\n"}, "--- made (expected)", "-other\n+text\n")

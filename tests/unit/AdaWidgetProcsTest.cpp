@@ -903,6 +903,7 @@ TEST_F(AdaWidgetProcs, TopLevelNamesAreComparedByTheCaseRule) {
 // As deep as controls may be nested, all traversals need no more than a small stack.
 TEST_F(AdaWidgetProcs, TraversalsReachTheGreatestDepth) {
   std::vector<std::string> names;
+  names.reserve(kMaxControlDepth + 1);
   for (int level = 0; level <= kMaxControlDepth; ++level) {
     names.push_back("w" + std::to_string(level));
   }
@@ -933,6 +934,7 @@ TEST_F(AdaWidgetProcs, TraversalsReachTheGreatestDepth) {
 // Forty levels that each have the level below twice are 2^40 ways to the lowest.
 TEST_F(AdaWidgetProcs, RecordsOfSharedWidgetsAreVisitedOnce) {
   std::vector<std::string> names;
+  names.reserve(40);
   for (int level = 0; level < 40; ++level) {
     names.push_back("level_" + std::to_string(level));
   }

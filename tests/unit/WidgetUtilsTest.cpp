@@ -504,8 +504,10 @@ TEST_F(WidgetUtils, HierarchyCountsSharedWidgetsEachTime) {
 
 // Each level has the level below twice, so that each level doubles the count.
 TEST_F(WidgetUtils, HierarchySaturates) {
+  constexpr int kLevels = 100;
   std::vector<std::string> names;
-  for (int level = 0; level < 100; ++level) {
+  names.reserve(kLevels);
+  for (int level = 0; level < kLevels; ++level) {
     names.push_back("level_" + std::to_string(level));
   }
   Define(names[0].c_str(), "XmForm");

@@ -1,0 +1,2 @@
+package body demo_callbacks is
+end demo_callbacks;

@@ -1,0 +1,2 @@
+package demo_callbacks is
+end demo_callbacks;

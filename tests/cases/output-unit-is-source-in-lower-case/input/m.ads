@@ -1,0 +1,3 @@
+module m
+object f : XmForm { };
+end module;

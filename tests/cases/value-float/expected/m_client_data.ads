@@ -1,0 +1,15 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with Xmdef;
+package m_client_data is
+    float_1 : constant xtr5.double := 1.000000000000000E+00;
+    float_2 : constant xtr5.double := 1.000000000000000E-01;
+    arg_3 : constant string := "movedCallback" & ASCII.NUL;
+    float_3 : constant xtr5.double := -2.500000000000000E+02;
+  procedure m_cb_proc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer );
+  pragma external(c, m_cb_proc);
+end m_client_data;

@@ -1,0 +1,226 @@
+with Xm;
+with Xmdef;
+with unchecked_deallocation;
+package body m_uil is
+  function "="( left, right : in xtr5.widget ) return boolean
+    renames xtr5."=";
+  create_callback_struct : constant xm1_2_2.anycallbackstruct := (
+    reason => xm1_2_2.CR_CREATE,
+    event  => null );
+  procedure freewidgetlist is new
+    unchecked_deallocation( xtr5.widgetlist,
+                            xtr5.widgetlist_ptr );
+  current_top_level : xtr5.widget := xtr5.xtnull;
+  auto_child : xtr5.widget := xtr5.xtnull;
+  function kivu_create_w( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr;
+  procedure kivu_post_w( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int );
+  function uppercase_char( chr : in character )
+    return character is
+    diff : constant :=
+           character'pos( 'a' ) - character'pos( 'A' );
+  begin
+    if chr in 'a' .. 'z' then
+      return character'val( character'pos( chr ) - diff );
+    else
+      return chr;
+  end uppercase_char;
+  function uppercase_str( str : in string )
+    return string is
+    upc : string( 1 .. str'length ) := str;
+  begin
+    for i in upc'range loop
+      upc( i ) := uppercase_char( upc( i ) );
+    end loop;
+    return upc;
+  end uppercase_str;
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr ) is
+    upc_name : constant string := uppercase_str( name );
+    widgets : xtr5.widgetlist_ptr := null;
+  begin
+    current_top_level := Xtr5.Xtnull;
+    if upc_name = "W" then
+      widgets := kivu_create_w( parent );
+      kivu_post_w( parent, widgets, widgets'first );
+    end if;
+    widgets_return := widgets;
+  end FetchWidget;
+  function Shell return XtR5.Widget is
+  begin
+    return Shells( Shells'First );
+  end Shell;
+  function Child_List return XtR5.WidgetList_Ptr is
+  begin
+    return Child_Lists( Child_Lists'First );
+  end Child_List;
+  function Child_Name return String is
+  begin
+    return Child_Names( Child_Names'First ).all;
+  end Child_Name;
+  function Shell_Name return String is
+  begin
+    return Shell_Names( Shell_Names'First ).all;
+  end Shell_Name;
+  function kivu_create_w( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr is
+    self : xtr5.widget;
+    child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
+    child_count : integer := 1;
+    args : xtr5.arglist( 1 .. 12 );
+  begin
+    declare
+    arg_1 : constant string := "XmNitems" & ASCII.NUL;
+    compound_string_table_1 : xm1_2_2.xmstringlist( 1 .. 3 ) := ( others => xtr5.xtnull );
+    integer_3 : constant integer := 1;
+    arg_4 : constant string := "xmnitems" & ASCII.NUL;
+    compound_string_table_4 : xm1_2_2.xmstringlist( 1 .. 2 ) := ( others => xtr5.xtnull );
+    integer_6 : constant integer := 2;
+    arg_7 : constant string := "XmNlistItems" & ASCII.NUL;
+    integer_table_7 : constant xlibr5.intlist( 1 .. 1 ) := (
+        1 => 7 );
+    integer_9 : constant integer := 3;
+    begin
+    declare
+    string_1_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    string_2_1 : constant string :=
+      "b" &
+      character'val(   0 );
+    compound_string_2 : xm1_2_2.xmstring;
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_table_1( 1 ) := compound_string_1;
+    compound_string_2 :=
+      xm1_2_2.stringsegmentcreate( string_2_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_table_1( 2 ) := compound_string_2;
+    end;
+    xtr5.setarg( args( 1 ), arg_1, compound_string_table_1( compound_string_table_1'first )'address );
+    xtr5.setarg( args( 2 ), xmdef.nitemCount, xtr5.argval( compound_string_table_1'length - 1 ) );
+    xtr5.setarg( args( 3 ), xmdef.nwidth, integer_3 );
+    declare
+    string_1_1 : constant string :=
+      "c" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_table_4( 1 ) := compound_string_1;
+    end;
+    xtr5.setarg( args( 4 ), arg_4, compound_string_table_4( compound_string_table_4'first )'address );
+    xtr5.setarg( args( 5 ), xmdef.nitemCount, xtr5.argval( compound_string_table_4'length - 1 ) );
+    xtr5.setarg( args( 6 ), xmdef.nheight, integer_6 );
+    xtr5.setarg( args( 7 ), arg_7, integer_table_7( integer_table_7'first )'address );
+    xtr5.setarg( args( 9 ), xmdef.nx, integer_9 );
+    self := Xm1_2_2.CreateList(
+              parent,
+              "w",
+              args,
+              9 );
+    if current_top_level = xtr5.xtnull then      current_top_level := self;
+    end if;
+    for index_1 in compound_string_table_1'range loop
+      if compound_string_table_1( index_1 ) /= xtr5.xtnull then
+        xm1_2_2.stringfree( compound_string_table_1( index_1 ) );
+      end if;
+    end loop;
+    for index_4 in compound_string_table_4'range loop
+      if compound_string_table_4( index_4 ) /= xtr5.xtnull then
+        xm1_2_2.stringfree( compound_string_table_4( index_4 ) );
+      end if;
+    end loop;
+    end;
+    declare
+    arg_1 : constant string := "XmNhistoryItems" & ASCII.NUL;
+    color_1 : xlibr5.pixel;
+    string_1 : constant string :=
+      "red" &
+      character'val(   0 );
+    color_args_1 : xtr5.arglist( 1 .. 1 );
+    color_colormap_1 : xlibr5.colormap;
+    color_screen_rgb_1 : xlibr5.color;
+    color_exact_rgb_1 : xlibr5.color;
+    color_status_1 : boolean;
+    color_3 : xlibr5.pixel;
+    string_3 : constant string :=
+      "blue" &
+      character'val(   0 );
+    color_args_3 : xtr5.arglist( 1 .. 1 );
+    color_colormap_3 : xlibr5.colormap;
+    color_screen_rgb_3 : xlibr5.color;
+    color_exact_rgb_3 : xlibr5.color;
+    color_status_3 : boolean;
+    begin
+    XtR5.SetArg( color_args_1( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_1'address );
+    XtR5.GetValues( self, color_args_1, 1 );
+    if string_1'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_1,
+                              string_1,
+                              color_screen_rgb_1,
+                              color_exact_rgb_1,
+                              color_status_1 );
+    else
+      color_status_1 := false;
+    end if;
+    if color_status_1 then
+      color_1 := color_screen_rgb_1.pixel;
+    else
+      color_1 := xlibr5.pixel( 0 );
+    end if;
+    xtr5.setarg( args( 1 ), arg_1, color_1 );
+    XtR5.SetArg( color_args_3( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_3'address );
+    XtR5.GetValues( self, color_args_3, 1 );
+    if string_3'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_3,
+                              string_3,
+                              color_screen_rgb_3,
+                              color_exact_rgb_3,
+                              color_status_3 );
+    else
+      color_status_3 := false;
+    end if;
+    if color_status_3 then
+      color_3 := color_screen_rgb_3.pixel;
+    else
+      color_3 := xlibr5.pixel( 0 );
+    end if;
+    xtr5.setarg( args( 3 ), xmdef.nforeground, color_3 );
+    XtR5.SetValues( self, args, 3 );
+    end;
+    declare
+      children : xtr5.widgetlist( 1 .. 1 ) := ( 1 => self );
+    begin
+      return new xtr5.widgetlist'( children );
+    end;
+  end kivu_create_w;
+  procedure kivu_post_w( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int ) is
+    args : xtr5.arglist( 1 .. 12 );
+  begin
+    null;
+  end kivu_post_w;
+end m_uil;

@@ -1,0 +1,197 @@
+#!/usr/bin/env python3
+"""Checks that the cases show every message about the source that the program can give.
+
+    tests/check_coverage.py [--root FOLDER]
+
+Taken from the sources are the usage texts of the grammar's error alternatives (ParseUsage.cpp) and
+every text that is reported as a warning, a syntax error or an error; each must be printed by at least one case, on
+a line of its `stderr` with the prefix of its kind.  There must also be a `syntax-*` folder for each
+alternative of the grammar that holds the `error` token.  What no case shows is printed, and the
+exit status is 1 then.
+
+Texts that no source can provoke are listed below with the reason.  One that a case shows after all
+is reported too, so that the list cannot go stale.
+"""
+
+import argparse
+import collections
+import pathlib
+import re
+import sys
+
+PREFIXES = {"kSyntax": "  syntax: expected ", "kError": "   error: ", "kWarning": " warning: "}
+
+OUT_OF_REACH = {
+    "Operator ~ not defined for type of expression":
+        "the scanner replaces the character",
+    "Cannot generate auto-fetch code for top-level widget %s":
+        "given when the report has been printed",
+}
+
+# What formats with a word put in stand for: each of these is a message of its own.  The conflict of
+# a module's name is missing, as it is the first name of all.
+SPELLED_OUT = {
+    "%s list multiply defined": [
+        "Arguments list multiply defined",
+        "Callbacks list multiply defined",
+        "Procedures list multiply defined",
+        "Controls list multiply defined",
+    ],
+    "Name %s not known as %s": [
+        "Name %s not known as an argument name",
+        "Name %s not known as an arguments list",
+        "Name %s not known as a callback reason",
+        "Name %s not known as a callbacks list",
+        "Name %s not known as a procedure",
+        "Name %s not known as a procedure list",
+        "Name %s not known as a controls list",
+    ],
+    "Cannot use %s as %s name because it conflicts with %s": [
+        "Cannot use %s as procedure name because it conflicts with %s",
+        "Cannot use %s as widget name because it conflicts with %s",
+    ],
+}
+
+# A quoted text or character, a comment, a preprocessor line, or any one character.
+C_TOKEN = re.compile(
+    r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*|.',
+    re.DOTALL | re.MULTILINE)
+ESCAPES = {"n": "\n", "t": "\t", '"': '"', "'": "'", "\\": "\\"}
+
+
+def unquoted(literal):
+    """The text that a C string literal stands for; the few escapes that messages use."""
+    return re.sub(r"\\(.)", lambda match: ESCAPES[match[1]], literal[1:-1], flags=re.DOTALL)
+
+
+def c_tokens(text):
+    """The pieces of C text: literals whole, other characters singly, without comments."""
+    for match in C_TOKEN.finditer(text):
+        token = match[0]
+        if not token.startswith(("//", "/*")) and not token.lstrip(" \t").startswith("#"):
+            yield token
+
+
+def literals(text):
+    """The string literals of C text, adjacent ones joined."""
+    joined, result = None, []
+    for token in c_tokens(text):
+        if token.startswith('"'):
+            joined = (joined or "") + unquoted(token)
+        elif not token.isspace():
+            if joined is not None:
+                result.append(joined)
+            joined = None
+    return result + ([joined] if joined is not None else [])
+
+
+def arguments(text, start):
+    """The arguments of the call whose opening parenthesis ends just before `start`."""
+    result, depth = [""], 0
+    for token in c_tokens(text[start:]):
+        if token in ("(", "{", "["):
+            depth += 1
+        elif token in (")", "}", "]"):
+            if depth == 0:
+                break
+            depth -= 1
+        if token == "," and depth == 0:
+            result.append("")
+        else:
+            result[-1] += token
+    return [argument.strip() for argument in result]
+
+
+def reported_texts(text):
+    """Pairs (kind, format) of what a source file reports by ErrorFormat and ErrorMessage.
+
+    A text that comes in a variable may be any literal of the file that has words in it.
+    """
+    handed_on = set()
+    for call in re.finditer(r"\bError(?:Format|Message)\s*\(", text):
+        kind, *rest = arguments(text, call.end())
+        if kind in PREFIXES and rest:
+            for literal in literals(rest[0]):
+                yield kind, literal
+            if '"' not in rest[0]:
+                handed_on.add(kind)
+    for kind in sorted(handed_on):
+        for literal in literals(text):
+            if " " in literal:
+                yield kind, literal
+
+
+def pattern(kind, text):
+    """A regular expression for the lines of a report that show a format."""
+    parts = re.split(r"(%[-0-9.]*[a-z]|%%)", text)
+    wild = {"d": r"-?\d+", "s": r".*", "%": "%"}
+    return re.compile(re.escape(PREFIXES[kind]) + "".join(
+        wild[part[-1]] if part.startswith("%") else re.escape(part) for part in parts))
+
+
+def grammar_alternatives(text):
+    """The alternatives of a grammar's rules as lists of symbols, actions left out."""
+    rules = re.split(r"^%%[ \t]*$", text, flags=re.MULTILINE)[1]
+    depth, plain = 0, []
+    for token in c_tokens(rules):
+        if token == "{":
+            depth += 1
+        if depth == 0:
+            plain.append("CHARACTER" if token.startswith("'") else token)
+        if token == "}":
+            depth -= 1
+    for rule in "".join(plain).split(";"):
+        if ":" in rule:
+            for alternative in rule.split(":", 1)[1].split("|"):
+                yield alternative.split()
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--root", type=pathlib.Path,
+                        default=pathlib.Path(__file__).resolve().parent.parent)
+    root = parser.parse_args().root
+    sources = root / "src"
+    cases = root / "tests" / "cases"
+
+    grammar = (sources / "uil.y").read_text("latin-1")
+    alternatives = sum("error" in each for each in grammar_alternatives(grammar))
+    syntax_cases = len([each for each in cases.glob("syntax-*") if each.is_dir()])
+
+    wanted = collections.OrderedDict()
+    for path in [*sorted(sources.glob("*.cpp")), sources / "uil.y", sources / "lex.l"]:
+        for kind, text in reported_texts(path.read_text("latin-1")):
+            for each in SPELLED_OUT.get(text, [text]):
+                wanted.setdefault((kind, each), path.name)
+    for text in {*literals((sources / "ParseUsage.cpp").read_text("latin-1"))} - {""}:
+        wanted.setdefault(("kSyntax", text), "ParseUsage.cpp")
+
+    shown = set()
+    for path in cases.glob("*/stderr"):
+        shown.update(path.read_text("latin-1").split("\n"))
+
+    faults = []
+    if alternatives == 0:
+        faults.append("uil.y: no error alternative found")
+    if syntax_cases < alternatives:
+        faults.append(f"{alternatives} error alternatives, but {syntax_cases} cases syntax-*")
+    for (kind, text), source in wanted.items():
+        expression = pattern(kind, text)
+        seen = any(expression.fullmatch(line) for line in shown)
+        if seen and text in OUT_OF_REACH:
+            faults.append(f"{source}: shown although listed as out of reach: {text}")
+        elif not seen and text not in OUT_OF_REACH:
+            faults.append(f"{source}: no case shows {PREFIXES[kind].strip()} {text}")
+    for text in OUT_OF_REACH:
+        if text not in [each for _, each in wanted]:
+            faults.append(f"listed as out of reach, but nowhere reported: {text}")
+
+    for fault in faults:
+        print(fault)
+    print(f"{alternatives} error alternatives, {syntax_cases} syntax cases, {len(wanted)} texts, "
+          f"{len(faults)} faults")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
