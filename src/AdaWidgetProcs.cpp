@@ -538,7 +538,6 @@ static void WidgetReturnSubtree(const WidgetDef *widget, std::FILE *file, bool h
                                                        std::FILE *file, unsigned *counter) {
   const FlatList arguments(WidgetFlatArgumentsList(widget));
   const FlatList callbacks(WidgetFlatCallbacksList(widget));
-  const PhasedArguments phased = WidgetPhasedArguments(arguments.get());
   const bool children_first = WidgetChildrenFirst(widget);
   const int children = WidgetCountChildren(controls);
   WidgetCreateProcDecl(widget, file, true);
@@ -548,6 +547,7 @@ static void WidgetReturnSubtree(const WidgetDef *widget, std::FILE *file, bool h
   if (children_first) {
     WidgetCallCreateProcs(widget, controls, file, true, counter);
   }
+  const PhasedArguments phased = WidgetPhasedArguments(arguments.get());
   WidgetCreateSelf(widget, phased, file, children > 0 && children_first);
   WidgetSetArguments(phased, kAfter, file, "self");
   WidgetClientDataInit("self", callbacks.get(), file, counter, false);
