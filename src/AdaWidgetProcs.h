@@ -8,9 +8,9 @@
 
 #include "uiltoada.h"
 
-extern HashTable widget_table;               // WidgetEmit by widget name; made by Convert
-extern const char *child_self_or_parent;     // the Ada expression that conversions run against
-extern const WidgetDef *current_top_level;   // the tree being written, or null
+extern HashTable widget_table;             // WidgetEmit by widget name; made by Convert
+extern const char *child_self_or_parent;   // the Ada expression that conversions run against
+extern const WidgetDef *current_top_level; // the tree being written, or null
 
 // Create `widget_table`; false when it could not be made.
 bool WidgetTableInit();

@@ -17,14 +17,14 @@
 
 #include "uiltoada.h"
 
-extern HashTable symbol_table;          // every name of the module and of the language
-extern HashTable names_table;           // the Ada-legal forms of the names that become Ada names
-extern FunctionName *token_types[];     // type descriptions by value kind, MAX_TOKENS entries
-extern List widget_classes;             // classes used, in order of first use; null before one
-extern List top_level_objects;          // WidgetDef; null before one
-extern List unbound_procedures;         // ProcedureName; null before one
-extern ModuleData *module_definition;   // null before the module header
-extern const char *module_name;         // the module's name, null before the header
+extern HashTable symbol_table;            // every name of the module and of the language
+extern HashTable names_table;             // the Ada-legal forms of the names that become Ada names
+extern FunctionName *token_types[];       // type descriptions by value kind, MAX_TOKENS entries
+extern List widget_classes;               // classes used, in order of first use; null before one
+extern List top_level_objects;            // WidgetDef; null before one
+extern List unbound_procedures;           // ProcedureName; null before one
+extern ModuleData *module_definition;     // null before the module header
+extern const char *module_name;           // the module's name, null before the header
 extern const char *default_character_set; // UIL name, null when not given
 extern const char *uil_version;           // null when not given
 

@@ -21,8 +21,8 @@ bool RegisterAdaName(SimpleObjectRec *entry, const char *what) {
   if (NamesAdd(claim)) {
     return true;
   }
-  const auto *holder =
-      static_cast<const BareWord *>(static_cast<SimpleObjectRec *>(HashFind(names_table, claim->name)));
+  const auto *holder = static_cast<const BareWord *>(
+      static_cast<SimpleObjectRec *>(HashFind(names_table, claim->name)));
   ErrorFormat(kError, "Cannot use %s as %s name because it conflicts with %s", entry->name, what,
               static_cast<const SimpleObjectRec *>(holder->value)->name);
   return false;

@@ -96,8 +96,8 @@ void ControlReference(YYSTYPE *result, std::int32_t managed, const SymbolValue *
 void ControlForward(YYSTYPE *result, std::int32_t managed, const SymbolValue *widget_class,
                     const SymbolValue &name) {
   WidgetDef *definition = WidgetForward(
-      name, widget_class == nullptr ? nullptr
-                                    : static_cast<WidgetClassValue *>(widget_class->value));
+      name,
+      widget_class == nullptr ? nullptr : static_cast<WidgetClassValue *>(widget_class->value));
   definition->maybe_top = false;
   ReferenceTo(result, managed, name.name);
 }

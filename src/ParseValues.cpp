@@ -288,8 +288,8 @@ void RgbFunction(YYSTYPE *result, const TableValue &components) {
     return;
   }
   std::array<char, sizeof "#rrrrggggbbbb"> text{};
-  std::snprintf(text.data(), text.size(), "#%04x%04x%04x", values[0] & 0xffffU,
-                values[1] & 0xffffU, values[2] & 0xffffU);
+  std::snprintf(text.data(), text.size(), "#%04x%04x%04x", values[0] & 0xffffU, values[1] & 0xffffU,
+                values[2] & 0xffffU);
   RGBValue rgb{};
   rgb.kind = RGB;
   rgb.value = ModelText(text.data());

@@ -1,0 +1,25 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with m_client_data;
+use  m_client_data;
+procedure m_cbproc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer ) is
+begin
+  case client_data is
+    when 1 =>
+      set_cb(w, integer_1, call_data);
+    when 2 =>
+      show_cb(w, widget_2, call_data);
+    when 3 =>
+      set_cb(w, integer_3, call_data);
+    when 4 =>
+      show_cb(w, widget_4, call_data);
+    when 5 =>
+      set_cb(w, integer_5, call_data);
+    when others =>
+      null;
+  end case;
+end m_cbproc;

@@ -1,0 +1,17 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package m_callbacks is
+  procedure quit_cb(
+      w           : in xtr5.widget;
+      client_data : in xtr5.pointer;
+      call_data   : in xtr5.pointer );
+  procedure set_cb(
+      w           : in xtr5.widget;
+      client_data : in integer;
+      call_data   : in xtr5.pointer );
+  procedure show_cb(
+      w           : in xtr5.widget;
+      client_data : in xtr5.pointer;
+      call_data   : in xtr5.pointer );
+end m_callbacks;

@@ -1,0 +1,20 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with Xmdef;
+package m_client_data is
+    arg_7 : constant xmdef.argname :=
+        xmdef.argname( string'( "movedCallback" ) & ASCII.NUL );
+    arg_8 : constant xmdef.argname :=
+        xmdef.argname( string'( "movedCallback" ) & ASCII.NUL );
+    arg_9 : constant xmdef.argname :=
+        xmdef.argname( string'( "movedCallback" ) & ASCII.NUL );
+    arg_10 : constant xmdef.argname :=
+        xmdef.argname( string'( "movedCallback" ) & ASCII.NUL );
+    integer_10 : constant integer := 1;
+  procedure m_cb_proc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer );
+  pragma external(c, m_cb_proc);
+end m_client_data;

@@ -1,0 +1,113 @@
+with Xm;
+with Xmdef;
+with unchecked_deallocation;
+package body m_uil is
+  function "="( left, right : in xtr5.widget ) return boolean
+    renames xtr5."=";
+  create_callback_struct : constant xm1_2_2.anycallbackstruct := (
+    reason => xm1_2_2.CR_CREATE,
+    event  => null );
+  procedure freewidgetlist is new
+    unchecked_deallocation( xtr5.widgetlist,
+                            xtr5.widgetlist_ptr );
+  current_top_level : xtr5.widget := xtr5.xtnull;
+  auto_child : xtr5.widget := xtr5.xtnull;
+  function kivu_create_w( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr;
+  procedure kivu_post_w( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int );
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr ) is
+    widgets : xtr5.widgetlist_ptr := null;
+  begin
+    current_top_level := Xtr5.Xtnull;
+    if name = "w" then
+      widgets := kivu_create_w( parent );
+      kivu_post_w( parent, widgets, widgets'first );
+    end if;
+    widgets_return := widgets;
+  end FetchWidget;
+  function Shell return XtR5.Widget is
+  begin
+    return Shells( Shells'First );
+  end Shell;
+  function Child_List return XtR5.WidgetList_Ptr is
+  begin
+    return Child_Lists( Child_Lists'First );
+  end Child_List;
+  function Child_Name return String is
+  begin
+    return Child_Names( Child_Names'First ).all;
+  end Child_Name;
+  function Shell_Name return String is
+  begin
+    return Shell_Names( Shell_Names'First ).all;
+  end Shell_Name;
+  function kivu_create_w( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr is
+    self : xtr5.widget;
+    child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
+    child_count : integer := 1;
+    args : xtr5.arglist( 1 .. 14 );
+  begin
+    declare
+    integer_1 : constant integer := 2;
+    integer_2 : constant integer := -2;
+    integer_3 : constant integer := 3;
+    integer_4 : constant integer := 1;
+    boolean_5 : constant boolean := true;
+    boolean_6 : constant boolean := false;
+    boolean_7 : constant boolean := false;
+    boolean_8 : constant boolean := true;
+    arg_9 : constant string := "a" & ASCII.NUL;
+    float_9 : constant xtr5.double := 7.000000000000000E+00;
+    arg_10 : constant string := "a" & ASCII.NUL;
+    float_10 : constant xtr5.double := 1.000000000000000E+00;
+    arg_11 : constant string := "a" & ASCII.NUL;
+    float_11 : constant xtr5.double := 5.000000000000000E-01;
+    arg_12 : constant string := "b" & ASCII.NUL;
+    single_float_12 : constant xlib5.real := 7.000000E+00;
+    arg_13 : constant string := "b" & ASCII.NUL;
+    single_float_13 : constant xlib5.real := 0.000000E+00;
+    arg_14 : constant string := "b" & ASCII.NUL;
+    single_float_14 : constant xlib5.real := 5.000000E-01;
+    begin
+    xtr5.setarg( args( 1 ), xmdef.nwidth, integer_1 );
+    xtr5.setarg( args( 2 ), xmdef.nx, integer_2 );
+    xtr5.setarg( args( 3 ), xmdef.nheight, integer_3 );
+    xtr5.setarg( args( 4 ), xmdef.ny, integer_4 );
+    xtr5.setarg( args( 5 ), xmdef.nset, boolean_5 );
+    xtr5.setarg( args( 6 ), xmdef.nset, boolean_6 );
+    xtr5.setarg( args( 7 ), xmdef.nset, boolean_7 );
+    xtr5.setarg( args( 8 ), xmdef.nset, boolean_8 );
+    xtr5.setarg( args( 9 ), arg_9, float_9'address );
+    xtr5.setarg( args( 10 ), arg_10, float_10'address );
+    xtr5.setarg( args( 11 ), arg_11, float_11'address );
+    xtr5.setarg( args( 12 ), arg_12, single_float_12'address );
+    xtr5.setarg( args( 13 ), arg_13, single_float_13'address );
+    xtr5.setarg( args( 14 ), arg_14, single_float_14'address );
+    self := Xm1_2_2.CreateToggleButton(
+              parent,
+              "w",
+              args,
+              14 );
+    if current_top_level = xtr5.xtnull then      current_top_level := self;
+    end if;
+    end;
+    declare
+      children : xtr5.widgetlist( 1 .. 1 ) := ( 1 => self );
+    begin
+      return new xtr5.widgetlist'( children );
+    end;
+  end kivu_create_w;
+  procedure kivu_post_w( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int ) is
+    args : xtr5.arglist( 1 .. 14 );
+  begin
+    null;
+  end kivu_post_w;
+end m_uil;

@@ -1,0 +1,30 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with Xmdef;
+package m_client_data is
+    xbitmapfile_1 : xlibr5.pixmap;
+    xbitmapfile_file_1 : constant string := "a";
+    xbitmapfile_args_1 : xtr5.arglist( 1 .. 3 );
+    xbitmapfile_background_1 : xlibr5.pixel;
+    xbitmapfile_foreground_1 : xlibr5.pixel;
+    xbitmapfile_depth_1 : xlibr5.int;
+    xbitmapfile_2 : xlibr5.pixmap;
+    xbitmapfile_file_2 : constant string := "b";
+    xbitmapfile_args_2 : xtr5.arglist( 1 .. 3 );
+    xbitmapfile_background_2 : xlibr5.pixel;
+    xbitmapfile_foreground_2 : xlibr5.pixel;
+    xbitmapfile_depth_2 : xlibr5.int;
+    arg_3 : constant string := "movedCallback" & ASCII.NUL;
+    xbitmapfile_3 : xlibr5.pixmap;
+    xbitmapfile_file_3 : constant string := "";
+    xbitmapfile_args_3 : xtr5.arglist( 1 .. 3 );
+    xbitmapfile_background_3 : xlibr5.pixel;
+    xbitmapfile_foreground_3 : xlibr5.pixel;
+    xbitmapfile_depth_3 : xlibr5.int;
+  procedure m_cb_proc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer );
+  pragma external(c, m_cb_proc);
+end m_client_data;
