@@ -84,7 +84,10 @@ void ListDeclare(const SymbolValue &name, std::int32_t kind, const UnionList &li
   binding->name = name.name;
   binding->value = ModelCopy(list);
   binding->value->name = name.name;
-  SymbolAdd(binding);
+  if (!SymbolAdd(binding)) { // an item of the list has taken the name for a widget
+    ErrorFormat(kError, "Cannot use %s as list name because it conflicts with %s", name.name,
+                SymbolFind(name.name)->name);
+  }
 }
 
 void ListRedeclare(const char *what) { ErrorFormat(kError, "%s list multiply defined", what); }
