@@ -124,7 +124,10 @@ TEST_F(AdaArgument, CodesThatAreNoKindsArePointers) {
 TEST_F(AdaArgument, SmallTexts) {
   EXPECT_EQ(ExpressionFormat("%s_%d", "a", 3), "a_3");
   EXPECT_EQ(ExpressionFormat("%s", ""), "");
-  EXPECT_EQ(ExpressionFormat("%s.", std::string(5000, 'x').c_str()), std::string(5000, 'x') + ".");
+  const std::string longer(5000, 'x');
+  std::string closed = longer;
+  closed.push_back('.');
+  EXPECT_EQ(ExpressionFormat("%s.", longer.c_str()), closed);
   EXPECT_EQ(ExpressionAddress("v_1"), "v_1'address");
   EXPECT_EQ(ExpressionFirstAddress("v_1"), "v_1( v_1'first )'address");
 }
