@@ -231,9 +231,7 @@ bool FilesIsSource(const char *path) {
 
 // -- Copying -----------------------------------------------------------------------------------
 
-// Copies what `from` holds.  False when it could not all be written; whether it could be read is
-// for the caller to see.
-static bool FilesCopyBlocks(std::FILE *from, std::FILE *to) {
+bool FilesCopyBlocks(std::FILE *from, std::FILE *to) {
   std::array<char, kCopyBlock> block{};
   std::size_t count = 0;
   while ((count = std::fread(block.data(), 1, block.size(), from)) > 0) {

@@ -60,6 +60,10 @@ std::size_t FilesRead(char *buffer, std::size_t size);
 // True when `path` is the same file (device and inode) as a source opened in this run.
 bool FilesIsSource(const char *path);
 
+// Copies what is left of `from`.  False when it could not all be written; whether it could all be
+// read is for the caller to ask of `from`.
+bool FilesCopyBlocks(std::FILE *from, std::FILE *to);
+
 // Copies a file's bytes.  Returns 1, or 0 after an immediate message.
 int FilesCopyFile(const char *from, const char *to);
 

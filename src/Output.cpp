@@ -25,10 +25,10 @@
 #include "Alloc.h"
 #include "Ascii.h"
 #include "Error.h"
+#include "Files.h"
 #include "Options.h"
 
 constexpr std::size_t kTemporaries = 8; // at one time: a temporary file per slot and one in place
-constexpr std::size_t kCopyBlock = 8192;
 constexpr std::size_t kRandomLength = 16;
 constexpr std::string_view kBesidePrefix = ".kivut";
 constexpr mode_t kNewFileMode = 0666; // before the user's mask
@@ -238,17 +238,6 @@ struct FileCloser {
   void operator()(std::FILE *file) const { std::fclose(file); }
 };
 
-static bool CopyBlocks(std::FILE *from, std::FILE *to) {
-  std::array<char, kCopyBlock> block{};
-  std::size_t count = 0;
-  while ((count = std::fread(block.data(), 1, block.size(), from)) > 0) {
-    if (std::fwrite(block.data(), 1, count, to) != count) {
-      return false;
-    }
-  }
-  return true;
-}
-
 // Copies the temporary file to the name beside `final_name`, which is the one that messages name.
 static bool CopyBeside(const std::string &temporary, const std::string &beside,
                        const std::string &final_name) {
@@ -262,7 +251,7 @@ static bool CopyBeside(const std::string &temporary, const std::string &beside,
     ErrorFormat(kImmediate, "Cannot open file \"%s\" for writing", final_name.c_str());
     return false;
   }
-  const bool written = CopyBlocks(from.get(), to);
+  const bool written = FilesCopyBlocks(from.get(), to);
   const bool closed = std::fclose(to) == 0;
   if (!written || !closed) {
     ReportWriting(final_name.c_str());
