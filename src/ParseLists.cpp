@@ -17,7 +17,7 @@ void ProcedureDeclare(const SymbolValue &name, std::int32_t type) {
   procedure->name = name.name;
   procedure->type = type;
   procedure->usage = NIL;
-  if (!RegisterAdaName(procedure, "procedure")) {
+  if (!RegisterAdaName(procedure, "Cannot use %s as procedure name because it conflicts with %s")) {
     return;
   }
   auto *binding = ModelNew<ProcedureDecl>(PROCEDURE_NAME);
@@ -90,8 +90,6 @@ void ListDeclare(const SymbolValue &name, std::int32_t kind, const UnionList &li
   }
 }
 
-void ListRedeclare(const char *what) { ErrorFormat(kError, "%s list multiply defined", what); }
-
 void ListReference(YYSTYPE *result, std::int32_t kind, const SymbolValue &name) {
   UnionList reference{};
   reference.kind = kind;
@@ -100,8 +98,8 @@ void ListReference(YYSTYPE *result, std::int32_t kind, const SymbolValue &name) 
   result->attrib_v = reference;
 }
 
-void NotKnownAs(YYSTYPE *result, const SymbolValue &name, const char *what) {
-  ErrorFormat(kError, "Name %s not known as %s", name.name, what);
+void NameFault(YYSTYPE *result, const SymbolValue &name, const char *format) {
+  ErrorFormat(kError, format, name.name);
   ParseFailed(result);
 }
 

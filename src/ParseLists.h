@@ -15,14 +15,11 @@ void ListOf(YYSTYPE *result, std::int32_t kind, const TableValue &items);
 // list <name> : ...; `kind` is the binding kind.
 void ListDeclare(const SymbolValue &name, std::int32_t kind, const UnionList &list);
 
-// A list's name met again in a declaration: "<what> list multiply defined".
-void ListRedeclare(const char *what);
-
 // A reference to a named list, as an item of that binding kind.
 void ListReference(YYSTYPE *result, std::int32_t kind, const SymbolValue &name);
 
-// A name that should be something: "Name %s not known as <what>".
-void NotKnownAs(YYSTYPE *result, const SymbolValue &name, const char *what);
+// Reports a fault of a name, whose text is to be put into the format, and fails.
+void NameFault(YYSTYPE *result, const SymbolValue &name, const char *format);
 
 // The item of a semantic value for a list: null when the item failed.
 UnionList *ListItemOf(const UnionList &item);

@@ -14,7 +14,7 @@
 #include "Scanner.h"
 #include "WidgetUtils.h"
 
-bool RegisterAdaName(SimpleObjectRec *entry, const char *what) {
+bool RegisterAdaName(SimpleObjectRec *entry, const char *conflict) {
   auto *claim = ModelNew<BareWord>(entry->kind);
   claim->name = ModelText(LegalName(entry->name));
   claim->value = entry;
@@ -23,14 +23,14 @@ bool RegisterAdaName(SimpleObjectRec *entry, const char *what) {
   }
   const auto *holder = static_cast<const BareWord *>(
       static_cast<SimpleObjectRec *>(HashFind(names_table, claim->name)));
-  ErrorFormat(kError, "Cannot use %s as %s name because it conflicts with %s", entry->name, what,
+  ErrorFormat(kError, conflict, entry->name,
               static_cast<const SimpleObjectRec *>(holder->value)->name);
   return false;
 }
 
 void ModuleHeader(YYSTYPE *result, const SymbolValue &name) {
   module_definition = CreateModule(name.name);
-  RegisterAdaName(module_definition, "module");
+  RegisterAdaName(module_definition, "Cannot use %s as module name because it conflicts with %s");
   module_name = module_definition->name;
   result->module.kind = MODULE;
   result->module.value = module_definition;

@@ -26,8 +26,8 @@ void ObjectVariant(const SymbolValue &widget_class, std::int32_t variant);
 // the file name, with its value, or null when there is none to keep.
 void IncludeFile(const StringValue &name, const int *lookahead, const YYSTYPE &value);
 
-// Registers the Ada-legal form of `entry`'s name.  False, after a message that names the entry as
-// a `what` ("module", "procedure", "widget"), when another entry has claimed it.
-bool RegisterAdaName(SimpleObjectRec *entry, const char *what);
+// Registers the Ada-legal form of `entry`'s name.  False, after the message `conflict` with the
+// names of both, when another entry has claimed it.
+bool RegisterAdaName(SimpleObjectRec *entry, const char *conflict);
 
 #endif

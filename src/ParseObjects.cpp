@@ -23,7 +23,7 @@ static void BindWidget(WidgetDef *definition) {
   auto *binding = ModelNew<WidgetValue>(WIDGET_NAME);
   binding->name = definition->name;
   binding->value = definition;
-  RegisterAdaName(binding, "widget");
+  RegisterAdaName(binding, "Cannot use %s as widget name because it conflicts with %s");
   SymbolAdd(binding);
 }
 

@@ -699,7 +699,8 @@ list_decl
 
 args_list_decl
   : SYMBOL ':' arguments_list { ListDeclare($1.symbol, ARGUMENTS_LIST_NAME, $3.attrib_v); }
-  | ARGUMENTS_LIST_NAME ':' arguments_list { ListRedeclare("Arguments"); }
+  | ARGUMENTS_LIST_NAME ':' arguments_list
+      { ErrorMessage(kError, "Arguments list multiply defined"); }
   ;
 
 arguments_list
@@ -725,12 +726,13 @@ arguments_list_item
   | ARGUMENT_VALUE '=' argument_value_expr ';'
       { ArgumentItem(&$$, $1.symbol, $3); $$.ctl_v.value.ptr = ArgumentItemOf($$.arg_v); }
   | SYMBOL '=' argument_value_expr ';'
-      { NotKnownAs(&$$, $1.symbol, "an argument name"); $$.ctl_v.value.ptr = nullptr; }
+      { NameFault(&$$, $1.symbol, "Name %s not known as an argument name");
+        $$.ctl_v.value.ptr = nullptr; }
   ;
 
 args_list_ref
   : ARGUMENTS ARGUMENTS_LIST_NAME { ListReference(&$$, ARGUMENTS_LIST_NAME, $2.symbol); }
-  | ARGUMENTS SYMBOL { NotKnownAs(&$$, $2.symbol, "an arguments list"); }
+  | ARGUMENTS SYMBOL { NameFault(&$$, $2.symbol, "Name %s not known as an arguments list"); }
   ;
 
 argument_value_expr
@@ -743,7 +745,8 @@ argument_value_expr
 
 cbs_list_decl
   : SYMBOL ':' callbacks_list { ListDeclare($1.symbol, CALLBACKS_LIST_NAME, $3.attrib_v); }
-  | CALLBACKS_LIST_NAME ':' callbacks_list { ListRedeclare("Callbacks"); }
+  | CALLBACKS_LIST_NAME ':' callbacks_list
+      { ErrorMessage(kError, "Callbacks list multiply defined"); }
   ;
 
 callbacks_list
@@ -772,28 +775,32 @@ callbacks_list_item
 reason_procedure
   : REASON_NAME '=' PROCEDURE procedure_invoke { CallbackProcedure(&$$, $1.symbol, $4.proc_v); }
   | REASON_VALUE '=' PROCEDURE procedure_invoke { CallbackProcedure(&$$, $1.symbol, $4.proc_v); }
-  | SYMBOL '=' PROCEDURE procedure_invoke { NotKnownAs(&$$, $1.symbol, "a callback reason"); }
+  | SYMBOL '=' PROCEDURE procedure_invoke
+      { NameFault(&$$, $1.symbol, "Name %s not known as a callback reason"); }
   ;
 
 reason_procedures_list
   : REASON_NAME '=' procedures_list { CallbackProcedures(&$$, $1.symbol, $3.attrib_v); }
   | REASON_VALUE '=' procedures_list { CallbackProcedures(&$$, $1.symbol, $3.attrib_v); }
-  | SYMBOL '=' procedures_list { NotKnownAs(&$$, $1.symbol, "a callback reason"); }
+  | SYMBOL '=' procedures_list
+      { NameFault(&$$, $1.symbol, "Name %s not known as a callback reason"); }
   ;
 
 reason_named_procs_list
   : REASON_NAME '=' procs_list_ref ';' { CallbackProcedures(&$$, $1.symbol, $3.attrib_v); }
-  | SYMBOL '=' procs_list_ref ';' { NotKnownAs(&$$, $1.symbol, "a callback reason"); }
+  | SYMBOL '=' procs_list_ref ';'
+      { NameFault(&$$, $1.symbol, "Name %s not known as a callback reason"); }
   ;
 
 named_callbacks_list
   : CALLBACKS CALLBACKS_LIST_NAME ';' { ListReference(&$$, CALLBACKS_LIST_NAME, $2.symbol); }
-  | CALLBACKS SYMBOL ';' { NotKnownAs(&$$, $2.symbol, "a callbacks list"); }
+  | CALLBACKS SYMBOL ';' { NameFault(&$$, $2.symbol, "Name %s not known as a callbacks list"); }
   ;
 
 procs_list_decl
   : SYMBOL ':' procedures_list { ListDeclare($1.symbol, PROCEDURES_LIST_NAME, $3.attrib_v); }
-  | PROCEDURES_LIST_NAME ':' procedures_list { ListRedeclare("Procedures"); }
+  | PROCEDURES_LIST_NAME ':' procedures_list
+      { ErrorMessage(kError, "Procedures list multiply defined"); }
   ;
 
 procedures_list
@@ -803,7 +810,7 @@ procedures_list
 
 procs_list_ref
   : PROCEDURES PROCEDURES_LIST_NAME { ListReference(&$$, PROCEDURES_LIST_NAME, $2.symbol); }
-  | PROCEDURES SYMBOL { NotKnownAs(&$$, $2.symbol, "a procedure list"); }
+  | PROCEDURES SYMBOL { NameFault(&$$, $2.symbol, "Name %s not known as a procedure list"); }
   ;
 
 .procedure_invokes..
@@ -819,7 +826,7 @@ procedure_invokes..
 
 procedure_invoke
   : PROCEDURE_NAME .parameter_value ';' { ProcedureInvocation(&$$, $1.symbol, $2); }
-  | SYMBOL .parameter_value ';' { NotKnownAs(&$$, $1.symbol, "a procedure"); }
+  | SYMBOL .parameter_value ';' { NameFault(&$$, $1.symbol, "Name %s not known as a procedure"); }
   ;
 
 .parameter_value
@@ -837,7 +844,7 @@ parameter_value_expr
 
 ctls_list_decl
   : SYMBOL ':' controls_list { ListDeclare($1.symbol, CONTROLS_LIST_NAME, $3.attrib_v); }
-  | CONTROLS_LIST_NAME ':' controls_list { ListRedeclare("Controls"); }
+  | CONTROLS_LIST_NAME ':' controls_list { ErrorMessage(kError, "Controls list multiply defined"); }
   ;
 
 controls_list
@@ -898,7 +905,7 @@ controls_auto_object
 
 controls_list_ref
   : CONTROLS CONTROLS_LIST_NAME ';' { ListReference(&$$, CONTROLS_LIST_NAME, $2.symbol); }
-  | CONTROLS SYMBOL ';' { NotKnownAs(&$$, $2.symbol, "a controls list"); }
+  | CONTROLS SYMBOL ';' { NameFault(&$$, $2.symbol, "Name %s not known as a controls list"); }
   ;
 
 /* -- Objects ------------------------------------------------------------------------------ */

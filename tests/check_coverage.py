@@ -26,30 +26,8 @@ OUT_OF_REACH = {
         "the scanner replaces the character",
     "Cannot generate auto-fetch code for top-level widget %s":
         "given when the report has been printed",
-}
-
-# What formats with a word put in stand for: each of these is a message of its own.  The conflict of
-# a module's name is missing, as it is the first name of all.
-SPELLED_OUT = {
-    "%s list multiply defined": [
-        "Arguments list multiply defined",
-        "Callbacks list multiply defined",
-        "Procedures list multiply defined",
-        "Controls list multiply defined",
-    ],
-    "Name %s not known as %s": [
-        "Name %s not known as an argument name",
-        "Name %s not known as an arguments list",
-        "Name %s not known as a callback reason",
-        "Name %s not known as a callbacks list",
-        "Name %s not known as a procedure",
-        "Name %s not known as a procedure list",
-        "Name %s not known as a controls list",
-    ],
-    "Cannot use %s as %s name because it conflicts with %s": [
-        "Cannot use %s as procedure name because it conflicts with %s",
-        "Cannot use %s as widget name because it conflicts with %s",
-    ],
+    "Cannot use %s as module name because it conflicts with %s":
+        "the module's name is the first of all",
 }
 
 # A quoted text or character, a comment, a preprocessor line, or any one character.
@@ -103,7 +81,8 @@ def arguments(text, start):
 
 
 def reported_texts(text):
-    """Pairs (kind, format) of what a source file reports by ErrorFormat and ErrorMessage.
+    """Pairs (kind, format) of what a source file reports by ErrorFormat and ErrorMessage, or hands
+    to the functions of the parser that report a name.
 
     A text that comes in a variable may be any literal of the file that has words in it.
     """
@@ -115,9 +94,14 @@ def reported_texts(text):
                 yield kind, literal
             if '"' not in rest[0]:
                 handed_on.add(kind)
+    for call in re.finditer(r"\b(?:NameFault|RegisterAdaName)\s*\(", text):
+        for literal in literals(arguments(text, call.end())[-1]):
+            yield "kError", literal
+    fatal = [literal for call in re.finditer(r"\bFatalError(?:Format|Message)\s*\(", text)
+             for literal in literals(arguments(text, call.end())[0])]
     for kind in sorted(handed_on):
         for literal in literals(text):
-            if " " in literal:
+            if " " in literal and literal not in fatal:
                 yield kind, literal
 
 
@@ -161,8 +145,7 @@ def main():
     wanted = collections.OrderedDict()
     for path in [*sorted(sources.glob("*.cpp")), sources / "uil.y", sources / "lex.l"]:
         for kind, text in reported_texts(path.read_text("latin-1")):
-            for each in SPELLED_OUT.get(text, [text]):
-                wanted.setdefault((kind, each), path.name)
+            wanted.setdefault((kind, text), path.name)
     for text in {*literals((sources / "ParseUsage.cpp").read_text("latin-1"))} - {""}:
         wanted.setdefault(("kSyntax", text), "ParseUsage.cpp")
 
