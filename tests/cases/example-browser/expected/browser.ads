@@ -1,0 +1,4 @@
+with browser_uil;
+package browser is
+  package Widgets renames browser_uil;
+end browser;

@@ -1,0 +1,4 @@
+with dialogs_uil;
+package dialogs is
+  package Widgets renames dialogs_uil;
+end dialogs;

@@ -1,0 +1,4 @@
+with hello_uil;
+package hello is
+  package Widgets renames hello_uil;
+end hello;

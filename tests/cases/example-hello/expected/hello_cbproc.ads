@@ -1,0 +1,16 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+generic
+  with procedure greet_cb(
+      w           : in xtr5.widget;
+      client_data : in string;
+      call_data   : in xtr5.pointer );
+  with procedure quit_cb(
+      w           : in xtr5.widget;
+      client_data : in integer;
+      call_data   : in xtr5.pointer );
+procedure hello_cbproc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer );

@@ -1,0 +1,4 @@
+with settings_uil;
+package settings is
+  package Widgets renames settings_uil;
+end settings;
