@@ -219,15 +219,23 @@ def run_shell(words, place, environment, streams, limit):
                                    stdin=subprocess.DEVNULL, stdout=stdout, stderr=stderr,
                                    start_new_session=True, umask=0o022,
                                    preexec_fn=prepare_child)
-    in_time = wait_for(process, limit)
     try:
-        os.killpg(process.pid, signal.SIGKILL)
-    except (ProcessLookupError, PermissionError):
-        pass
-    status = process.wait()
+        in_time = wait_for(process, limit)
+    finally:
+        # Also when this program is told to stop; the leader's id is still its own.
+        try:
+            os.killpg(process.pid, signal.SIGKILL)
+        except (ProcessLookupError, PermissionError):
+            pass
+        status = process.wait()
     if not in_time:
         return None
     return 128 - status if status < 0 else status
+
+
+def stop(number, _):
+    """A signal handler that lets everything be cleaned up on the way out."""
+    sys.exit(128 + number)
 
 
 def prepare_child():
@@ -361,6 +369,8 @@ def main():
         parser.error("not a program: " + options.program)
     sys.stdout.reconfigure(errors="backslashreplace")
     signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGCHLD])
+    signal.signal(signal.SIGTERM, stop)
+    signal.signal(signal.SIGHUP, stop)
 
     failed = 0
     for folder in options.cases:

@@ -193,6 +193,23 @@ class RunCase(unittest.TestCase):
         self.assert_fails({"setup": "mkfifo fifo\n", "command": "kivuxl out err text 'cat fifo'"},
                           "still running after 0.5 seconds\n", options=("--limit", "0.5"))
 
+    def test_a_driver_that_is_stopped_leaves_nothing_running(self):
+        fifo = os.path.join(self.top.name, "fifo")
+        os.mkfifo(fifo)
+        folder = os.path.join(self.top.name, "hangs")
+        for part, content in {**GOOD, "setup": "mkfifo none\n", "environment": "FIFO=" + fifo,
+                              "command": "kivuxl out err text "
+                                         "'echo up; cat none' >$FIFO"}.items():
+            write(os.path.join(folder, part), content)
+        with subprocess.Popen([sys.executable, DRIVER, "--program", self.program, folder],
+                              env=self.environment) as driver:
+            with open(fifo, encoding="utf-8") as stream:  # waits until the command has opened it
+                self.assertEqual([stream.readline(), stream.readline()], ["out\n", "up\n"])
+                driver.terminate()
+                self.assertEqual(stream.read(), "")  # ends when the command has
+        self.assertEqual(driver.returncode, 143)
+        self.assertEqual(os.listdir(self.environment["TMPDIR"]), [])
+
     def test_sanitizer_status_reaches_the_run(self):
         self.environment["ASAN_OPTIONS"] = "exitcode=99"
         self.assert_passes({"command": "kivuxl out err text 'echo $ASAN_OPTIONS'",
