@@ -80,6 +80,15 @@ static void EnterWidget(TreeWalk *walk, const WidgetDef *definition) {
   Enter(walk, definition, definition, definition->ctls);
 }
 
+// What is written for a widget is kept by its name, so a name that was made for an object without
+// one must not be the name of another: one of the two would be left out.
+static void CheckAnonymous(const WidgetDef *definition) {
+  if (definition->anon && SymbolFind(definition->name) != nullptr) {
+    FatalErrorFormat("Cannot use %s as widget name because it conflicts with an anonymous object",
+                     definition->name);
+  }
+}
+
 // One item of the place at the end of the way.
 static void TakeItem(TreeWalk *walk, KindRec *item) {
   switch (item->kind) {
@@ -94,6 +103,7 @@ static void TakeItem(TreeWalk *walk, KindRec *item) {
   case WIDGET_NAME:
   case WIDGET_DEF:
   case AUTO_CREATED_DEF:
+    CheckAnonymous(static_cast<WidgetDef *>(item));
     EnterWidget(walk, WidgetOrigin(static_cast<WidgetDef *>(item)));
     return;
   case WIDGET_REF:
