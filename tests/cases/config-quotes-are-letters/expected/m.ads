@@ -1,0 +1,4 @@
+with m_"";
+package m is
+  package Widgets renames m_"";
+end m;

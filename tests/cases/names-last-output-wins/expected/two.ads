@@ -1,0 +1,4 @@
+with two_uil;
+package two is
+  package Widgets renames two_uil;
+end two;

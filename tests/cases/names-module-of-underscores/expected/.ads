@@ -1,0 +1,4 @@
+with _uil;
+package  is
+  package Widgets renames _uil;
+end ;

@@ -1,0 +1,4 @@
+with m_MRM;
+package m is
+  package Widgets renames m_MRM;
+end m;
