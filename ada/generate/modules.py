@@ -1,0 +1,137 @@
+"""UIL modules that use every name of the vocabulary once, as input of the tests.
+
+Their objects make no sense as user interfaces; the units that they give name everything that the
+Ada packages have to have.
+"""
+
+from vocabulary import class_object
+
+# A value for each type of argument, as the vocabulary writes the types.
+VALUES = {
+    "ANY": "1",
+    "BOOLEAN_NUMBER": "true",
+    "CLASS_REC_NAME": "class_rec_name('XmPushButton')",
+    "COLOR": "color('red')",
+    "COMPOUND_STRING": "compound_string('text')",
+    "COMPOUND_STRING_TABLE": "string_table('one', 'two')",
+    "FONT_TABLE": "font_table(font('fixed'))",
+    "IDENTIFIER": "some_identifier",
+    "INTEGER_NUMBER": "1",
+    "KEYSYM": "keysym('F1')",
+    "PIXMAP": "icon('* ', ' *')",
+    "SIMPLE_STRING": "'text'",
+    "TRANSLATION_TABLE": "translation_table('<Key>F1: help()')",
+    "WIDE_CHARACTER": "wide_character('text')",
+    "WIDGET": "the_other",
+}
+
+# The constants of a translation table end in a parenthesis that nothing opens.
+NOT_COMPILED = ("TRANSLATION_TABLE",)
+
+BASE_CLASSES = ("Core", "Composite", "Constraint", "XmManager", "XmPrimitive", "XmGadget",
+                "XmDialogShell", "XmMenuShell", "XmSash")
+
+# One of each sort: the ends of the alphabet of names, digits, and pairs that only case tells apart.
+KEYSYMS = ("a", "Z", "5", "space", "Return", "Tab", "BackSpace", "Escape", "F1", "F35", "Prior",
+           "Page_Up", "KP_Enter", "Agrave", "agrave", "Capital_Agrave", "ETH", "c_h", "3270_Enter",
+           "Greek_alpha", "Greek_ALPHA", "Cyrillic_yu", "dead_acute", "EuroSign")
+
+
+def _module(name, note, body):
+    return (f"! Made by ada/generate/generate.py; not to be changed by hand.\n"
+            f"! {note}\n\n"
+            f"module {name}\n    version = 1\n    names = case_sensitive\n\n{body}\nend module;\n")
+
+
+def _lines(section, rows):
+    return (f"        {section} {{\n" + "".join(f"            {row};\n" for row in rows) +
+            "        };\n")
+
+
+def _object(name, class_name, body="", gadget=""):
+    return f"    {name} : {class_name}{gadget} {{\n{body}    }};\n"
+
+
+def _root(children):
+    return "object\n" + _object("root", "XmBulletinBoard", _lines("controls", children))
+
+
+def every_class(vocabulary, gadgets):
+    """Every class, every gadget, and every child that a class creates by itself."""
+    objects, children = [], []
+
+    def add(name, class_name, body="", gadget=""):
+        objects.append(_object(name, class_name, body, gadget))
+        children.append(f"{class_name} {name}")
+
+    for name in vocabulary.classes:
+        own = [child for child, parents in vocabulary.auto_children if name in parents]
+        rows = [f"{child} {{ arguments {{ XmNwidth = 10; }}; }}" for child in own]
+        add(f"an_{name}", name, _lines("controls", rows) if rows else "")
+    for name in gadgets:
+        add(f"a_{name}_gadget", name, gadget=" gadget")
+        add(f"a_{name}_gadget_gadget", f"{name}Gadget", gadget=" gadget")
+    return _module("every_class", "Every widget class.", _root(children) + "".join(objects))
+
+
+def every_class_object(vocabulary, aliases):
+    """Every class record name."""
+    names = list(dict.fromkeys([*vocabulary.classes, *BASE_CLASSES, *aliases,
+                                *(row[0] for row in vocabulary.odd_classes)]))
+    rows = [f"XmNentryClass = class_rec_name('{name}')" for name in names
+            if class_object(name, vocabulary.odd_classes)]
+    body = "object\n" + _object("root", "XmRowColumn", _lines("arguments", rows))
+    return _module("every_class_object", "Every class record name.", body)
+
+
+def _argument_objects(arguments):
+    """One object for the arguments of each type, so that a complaint shows the type."""
+    by_type = {}
+    for name, value_type in arguments:
+        by_type.setdefault(value_type, []).append(name)
+    objects, children = [], []
+    for value_type, names in sorted(by_type.items()):
+        rows = [f"{name} = {VALUES[value_type]}" for name in names]
+        objects.append(_object(f"the_{value_type}", "XmLabel", _lines("arguments", rows)))
+        children.append(f"XmLabel the_{value_type}")
+    return children, objects
+
+
+def every_argument(vocabulary):
+    arguments = [row for row in vocabulary.arguments if row[1] not in NOT_COMPILED]
+    children, objects = _argument_objects(arguments)
+    children.append("XmLabel the_other")
+    objects.append(_object("the_other", "XmLabel"))
+    body = "identifier some_identifier;\n\n" + _root(children) + "".join(objects)
+    return _module("every_argument", "Every argument with a value of its type.", body)
+
+
+def every_constant(vocabulary):
+    rows = [f"XmNuserData = {name}" for name, _ in vocabulary.constants]
+    body = "object\n" + _object("root", "XmLabel", _lines("arguments", rows))
+    return _module("every_constant", "Every named constant.", body)
+
+
+def every_reason(vocabulary):
+    rows = [f"{name} = procedure done()" for name in vocabulary.reasons]
+    body = ("procedure\n    done();\n\nobject\n" +
+            _object("root", "XmBulletinBoard", _lines("callbacks", rows)))
+    return _module("every_reason", "Every callback reason.", body)
+
+
+def every_keysym():
+    rows = [f"XmNmnemonic = keysym('{name}')" for name in KEYSYMS]
+    body = "object\n" + _object("root", "XmLabel", _lines("arguments", rows))
+    return _module("every_keysym", "Keysyms of every sort.", body)
+
+
+def all_modules(vocabulary, gadgets, aliases):
+    """The text of each module by its file name."""
+    return {
+        "every_class.uil": every_class(vocabulary, gadgets),
+        "every_class_object.uil": every_class_object(vocabulary, aliases),
+        "every_argument.uil": every_argument(vocabulary),
+        "every_constant.uil": every_constant(vocabulary),
+        "every_reason.uil": every_reason(vocabulary),
+        "every_keysym.uil": every_keysym(),
+    }
