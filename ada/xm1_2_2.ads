@@ -10,7 +10,7 @@ with XtR5;
 
 package Xm1_2_2 is
 
-   --  Types, strings, font lists and pixmaps
+   --  Types, strings, font lists and pixmaps, which are those of package Xm
 
    subtype XmString is Xm.XmString;
    subtype XmStringList is Xm.XmStringList;

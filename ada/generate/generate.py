@@ -74,55 +74,44 @@ CLASS_ALIASES = {
 }
 
 TYPES = """\
-   --  Types, strings, font lists and pixmaps.  A String may end with a NUL or not
+   --  Types, strings, font lists and pixmaps, which are those of package Xm
 
-   subtype XmString is XtR5.Pointer;
-   type XmStringList is array (Integer range <>) of aliased XmString
-     with Convention => C;
-   subtype FontList is XtR5.Pointer;
-   subtype FontListEntry is XtR5.Pointer;
-
-   --  The head of what every callback gets as its call data
-
-   type AnyCallbackStruct is record
-      Reason : Integer;
-      Event  : XlibR5.Event_Ptr;
-   end record
-     with Convention => C;
+   subtype XmString is Xm.XmString;
+   subtype XmStringList is Xm.XmStringList;
+   subtype FontList is Xm.FontList;
+   subtype FontListEntry is Xm.FontListEntry;
+   subtype AnyCallbackStruct is Xm.AnyCallbackStruct;
 
    function StringSegmentCreate
      (Text      : Standard.String;
       Tag       : Standard.String;
       Direction : Integer;
-      Separator : Boolean) return XmString;
+      Separator : Boolean) return XmString
+     renames Xm.StringSegmentCreate;
    function StringCopy (Text : XmString) return XmString
-     with Import, Convention => C, External_Name => "XmStringCopy";
+     renames Xm.StringCopy;
    function StringConcat (Left, Right : XmString) return XmString
-     with Import, Convention => C, External_Name => "XmStringConcat";
+     renames Xm.StringConcat;
    procedure StringFree (Text : XmString)
-     with Import, Convention => C, External_Name => "XmStringFree";
-
-   --  The font is a font structure or a font set, as the kind (of package Xm) says
+     renames Xm.StringFree;
 
    function FontListEntryCreate
      (Tag  : Standard.String;
-      Kind : Integer;
-      Font : XtR5.Pointer) return FontListEntry;
+      Kind : Xm.FontType;
+      Font : XtR5.Pointer) return FontListEntry
+     renames Xm.FontListEntryCreate;
    function FontListAppendEntry
      (List : FontList;
       Item : FontListEntry) return FontList
-     with Import, Convention => C, External_Name => "XmFontListAppendEntry";
-   procedure FontListFree (List : FontList)
-     with Import, Convention => C, External_Name => "XmFontListFree";
-
-   --  The image of a bitmap file in two colours; UNSPECIFIED_PIXMAP when there is none
+     renames Xm.FontListAppendEntry;
 
    function GetPixmapByDepth
      (Screen     : XlibR5.Screen_Ptr;
       Name       : Standard.String;
       Foreground : XlibR5.Pixel;
       Background : XlibR5.Pixel;
-      Depth      : Integer) return XlibR5.Pixmap;
+      Depth      : Integer) return XlibR5.Pixmap
+     renames Xm.GetPixmapByDepth;
 """
 
 BODY_START = """\
@@ -170,66 +159,6 @@ package body Xm1_2_2 is
       Nargs  : Integer) return XtR5.Widget
    is (XtR5.CreatePopupShell
          (Name, Class, Parent, Args (Args'First .. Args'First + Nargs - 1)));
-"""
-
-BODY_FUNCTIONS = """\
-   --  Strings, font lists and pixmaps
-
-   function StringSegmentCreate
-     (Text      : Standard.String;
-      Tag       : Standard.String;
-      Direction : Integer;
-      Separator : Boolean) return XmString
-   is
-      function C_Create
-        (Text      : System.Address;
-         Tag       : System.Address;
-         Direction : Interfaces.C.unsigned_char;
-         Separator : Interfaces.C.unsigned_char) return XmString
-        with Import, Convention => C, External_Name => "XmStringSegmentCreate";
-      C_Text : constant Standard.String := XlibR5.C_Text (Text);
-      C_Tag  : constant Standard.String := XlibR5.C_Text (Tag);
-   begin
-      return C_Create
-        (C_Text'Address,
-         C_Tag'Address,
-         Interfaces.C.unsigned_char (Direction),
-         Boolean'Pos (Separator));
-   end StringSegmentCreate;
-
-   function FontListEntryCreate
-     (Tag  : Standard.String;
-      Kind : Integer;
-      Font : XtR5.Pointer) return FontListEntry
-   is
-      function C_Create
-        (Tag  : System.Address;
-         Kind : Interfaces.C.unsigned;
-         Font : XtR5.Pointer) return FontListEntry
-        with Import, Convention => C, External_Name => "XmFontListEntryCreate";
-      C_Tag : constant Standard.String := XlibR5.C_Text (Tag);
-   begin
-      return C_Create (C_Tag'Address, Interfaces.C.unsigned (Kind), Font);
-   end FontListEntryCreate;
-
-   function GetPixmapByDepth
-     (Screen     : XlibR5.Screen_Ptr;
-      Name       : Standard.String;
-      Foreground : XlibR5.Pixel;
-      Background : XlibR5.Pixel;
-      Depth      : Integer) return XlibR5.Pixmap
-   is
-      function C_Get
-        (Screen     : XlibR5.Screen_Ptr;
-         Name       : System.Address;
-         Foreground : XlibR5.Pixel;
-         Background : XlibR5.Pixel;
-         Depth      : Integer) return XlibR5.Pixmap
-        with Import, Convention => C, External_Name => "XmGetPixmapByDepth";
-      C_Name : constant Standard.String := XlibR5.C_Text (Name);
-   begin
-      return C_Get (Screen, C_Name'Address, Foreground, Background, Depth);
-   end GetPixmapByDepth;
 """
 
 CREATE_PARAMETERS = """\
@@ -315,10 +244,9 @@ class Toolkit:
         self.callback_reasons = sorted(
             name for name in self.headers.names if name.startswith("XmCR_"))
         self.enumerated = [name for name, _ in vocabulary.constants]
-        self.others = ["XmUNSPECIFIED_PIXMAP"]
         self.strings, self.integers = self.headers.values(
             [*self.resources, *self.reasons, "XmFONTLIST_DEFAULT_TAG"],
-            [*self.enumerated, *self.children, *self.callback_reasons, *self.others])
+            [*self.enumerated, *self.children, *self.callback_reasons])
 
 
 # -- Xm1_2_2 --------------------------------------------------------------------------------------
@@ -327,8 +255,7 @@ class Toolkit:
 def constant_lines(toolkit):
     """The named numbers: what the vocabulary knows, the children's names and the reasons."""
     written = dict(toolkit.vocabulary.constants)
-    names = sorted({*toolkit.enumerated, *toolkit.children, *toolkit.callback_reasons,
-                    *toolkit.others})
+    names = sorted({*toolkit.enumerated, *toolkit.children, *toolkit.callback_reasons})
     absent = [name for name in names if name not in toolkit.integers]
     differing = [name for name in toolkit.enumerated
                  if toolkit.integers.get(name, written[name]) != written[name]]
@@ -361,7 +288,7 @@ def child_functions(toolkit):
 
 
 def child_lines(toolkit):
-    lines = [BODY_FUNCTIONS, "\n", "   --  Children that widgets create by themselves\n\n"]
+    lines = ["   --  Children that widgets create by themselves\n\n"]
     for name in child_functions(toolkit):
         lines.append(f"   function {name[2:]}\n"
                      f"     (Parent : XtR5.Widget;\n"
@@ -393,7 +320,7 @@ def check_identifiers(spec):
 def xm_spec(toolkit, calls):
     parts = [HEAD, comment("The toolkit's functions, class objects and constants that the "
                            "translator's units name.").replace("   --", "--"),
-             "\n", PRAGMA, "with XlibR5;\nwith XtR5;\n\npackage Xm1_2_2 is\n\n", TYPES, "\n",
+             "\n", PRAGMA, "with XlibR5;\nwith Xm;\nwith XtR5;\n\npackage Xm1_2_2 is\n\n", TYPES, "\n",
              *constant_lines(toolkit), "\n", *class_lines(toolkit), "\n",
              *child_lines(toolkit), "\n", *create_lines(calls), "\nend Xm1_2_2;\n"]
     spec = "".join(parts)
@@ -434,7 +361,7 @@ def xm_body(toolkit, calls):
                      f"      Args   : System.Address;\n"
                      f"      Nargs  : Interfaces.C.unsigned) return XtR5.Widget\n"
                      f'     with Import, Convention => C, External_Name => "{name}";\n\n')
-    parts += [BODY_FUNCTIONS, "\n", "   --  Children that widgets create by themselves\n\n"]
+    parts += ["   --  Children that widgets create by themselves\n\n"]
     parts += [xm_child_body(name) for name in child_functions(toolkit)]
     parts.append("   --  Creation of widgets\n\n")
     parts += [xm_create_body(name, *calls[name]) for name in sorted(calls)]

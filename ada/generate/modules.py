@@ -69,8 +69,8 @@ def every_class(vocabulary, gadgets):
         rows = [f"{child} {{ arguments {{ XmNwidth = 10; }}; }}" for child in own]
         add(f"an_{name}", name, _lines("controls", rows) if rows else "")
     for name in gadgets:
-        add(f"a_{name}_gadget", name, gadget=" gadget")
-        add(f"a_{name}_gadget_gadget", f"{name}Gadget", gadget=" gadget")
+        add(f"one_{name}_gadget", name, gadget=" gadget")
+        add(f"one_{name}_gadget_gadget", f"{name}Gadget", gadget=" gadget")
     return _module("every_class", "Every widget class.", _root(children) + "".join(objects))
 
 
