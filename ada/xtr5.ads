@@ -12,6 +12,9 @@ with Xt;
 
 package XtR5 is
 
+   --  Motif before the intrinsics: both define the vendor shell, and Motif's is meant.
+   pragma Linker_Options ("-lXm" & ASCII.NUL & "-lXt" & ASCII.NUL & "-lX11");
+
    subtype Int is Integer;
    subtype Double is Long_Float;
 
