@@ -10,8 +10,11 @@ with its documented text, and listed in a comment of its package.
 """
 
 import argparse
+import difflib
 import pathlib
 import sys
+
+sys.dont_write_bytecode = True  # the source tree stays clean
 
 import modules
 from headers import Headers, read_keysyms
@@ -25,6 +28,8 @@ HEAD = """\
 
 # Ada 2012 by pragma, so that units that are compiled as Ada 83 can use the package.
 PRAGMA = "pragma Ada_2012;\n\n"
+
+MOST_LINES = 40  # of a difference that --check shows
 
 RESERVED = set("""abort abs abstract accept access aliased all and array at begin body case constant
 declare delay delta digits do else elsif end entry exception exit for function generic goto if in
@@ -447,19 +452,28 @@ def all_files():
     return files
 
 
+def differs(name, text):
+    """Says how a file differs from what it should be; whether it does."""
+    path = ROOT / name
+    found = path.read_text(encoding="ascii") if path.is_file() else ""
+    lines = list(difflib.unified_diff(found.splitlines(), text.splitlines(), name,
+                                      f"{name} as generated", lineterm="", n=1))
+    print("\n".join(lines[:MOST_LINES]), end="\n" if lines else "")
+    if len(lines) > MOST_LINES:
+        print(f"({len(lines) - MOST_LINES} lines more)")
+    return bool(lines)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--check", action="store_true", help="compare instead of writing")
     options = parser.parse_args()
-    status = 0
-    for name, text in all_files().items():
-        path = ROOT / name
-        if not options.check:
-            path.write_text(text, encoding="ascii")
-        elif not path.is_file() or path.read_text(encoding="ascii") != text:
-            print(f"{name} is not what {pathlib.Path(__file__).name} writes", file=sys.stderr)
-            status = 1
-    return status
+    files = all_files()
+    if options.check:
+        return 1 if any([differs(name, text) for name, text in files.items()]) else 0
+    for name, text in files.items():
+        (ROOT / name).write_text(text, encoding="ascii")
+    return 0
 
 
 if __name__ == "__main__":

@@ -15,7 +15,6 @@ VALUES = {
     "COMPOUND_STRING": "compound_string('text')",
     "COMPOUND_STRING_TABLE": "string_table('one', 'two')",
     "FONT_TABLE": "font_table(font('fixed'))",
-    "IDENTIFIER": "some_identifier",
     "INTEGER_NUMBER": "1",
     "KEYSYM": "keysym('F1')",
     "PIXMAP": "icon('* ', ' *')",
@@ -25,8 +24,8 @@ VALUES = {
     "WIDGET": "the_other",
 }
 
-# The constants of a translation table end in a parenthesis that nothing opens.
-NOT_COMPILED = ("TRANSLATION_TABLE",)
+# No value of any type is accepted for an argument that takes an identifier.
+NEVER_SET = ("IDENTIFIER",)
 
 BASE_CLASSES = ("Core", "Composite", "Constraint", "XmManager", "XmPrimitive", "XmGadget",
                 "XmDialogShell", "XmMenuShell", "XmSash")
@@ -98,12 +97,12 @@ def _argument_objects(arguments):
 
 
 def every_argument(vocabulary):
-    arguments = [row for row in vocabulary.arguments if row[1] not in NOT_COMPILED]
+    arguments = [row for row in vocabulary.arguments if row[1] not in NEVER_SET]
     children, objects = _argument_objects(arguments)
     children.append("XmLabel the_other")
     objects.append(_object("the_other", "XmLabel"))
-    body = "identifier some_identifier;\n\n" + _root(children) + "".join(objects)
-    return _module("every_argument", "Every argument with a value of its type.", body)
+    return _module("every_argument", "Every argument with a value of its type.",
+                   _root(children) + "".join(objects))
 
 
 def every_constant(vocabulary):
