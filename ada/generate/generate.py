@@ -447,8 +447,8 @@ def all_files():
         "ada/xmdef.ads": xmdef_spec(toolkit),
         "ada/xk.ads": xk_spec(keysyms),
     }
-    for name, text in modules.all_modules(toolkit.vocabulary, GADGETS, CLASS_ALIASES).items():
-        files[f"tests/ada/{name}"] = text
+    tests = modules.all_modules(toolkit.vocabulary, GADGETS, CLASS_ALIASES, calls)
+    files.update((f"tests/ada/{name}", text) for name, text in tests.items())
     return files
 
 

@@ -1,4 +1,5 @@
-"""UIL modules that use every name of the vocabulary once, as input of the tests.
+"""UIL modules that use every name of the vocabulary once, as input of the tests, and a program
+that calls every creation function.
 
 Their objects make no sense as user interfaces; the units that they give name everything that the
 Ada packages have to have.
@@ -124,9 +125,68 @@ def every_keysym():
     return _module("every_keysym", "Keysyms of every sort.", body)
 
 
-def all_modules(vocabulary, gadgets, aliases):
-    """The text of each module by its file name."""
+CREATION_START = """\
+--  Made by ada/generate/generate.py; not to be changed by hand.
+--  Calls every creation function and prints the class of what it gives.
+
+pragma Ada_2012;
+
+with Ada.Text_IO;
+with Interfaces.C.Strings;
+with XlibR5;
+with Xm1_2_2;
+with XrmR5;
+with XtR5;
+
+procedure Every_Creation is
+
+   --  The head of the record that a class is in C
+   type Class_Record is record
+      Superclass : XtR5.WidgetClass;
+      Name       : Interfaces.C.Strings.chars_ptr;
+   end record
+     with Convention => C;
+
+   function XtClass (Item : XtR5.Widget) return not null access Class_Record
+     with Import, Convention => C, External_Name => "XtClass";
+
+   procedure Report (Name : String; Item : XtR5.Widget) is
+   begin
+      Ada.Text_IO.Put_Line
+        (Name & " " & XtR5.Name (Item) & " " &
+         Interfaces.C.Strings.Value (XtClass (Item).Name));
+   end Report;
+
+   Argv     : XlibR5.StringList_Ptr := XlibR5.GetArguments;
+   Context  : XtR5.AppContext;
+   Options  : XrmR5.OptionDescList (1 .. 0);
+   Fallback : XlibR5.StringList (1 .. 0);
+   Args     : XtR5.ArgList (1 .. 0);
+   Shell    : XtR5.Widget;
+   Board    : XtR5.Widget;
+   Menu     : XtR5.Widget;
+begin
+   XtR5.AppInitialize
+     (Context, "Every_creation", Options, Argv, Fallback, Args, Shell);
+   Board := Xm1_2_2.CreateBulletinBoard (Shell, "board", Args, 0);
+   Menu := Xm1_2_2.CreatePulldownMenu (Board, "menu", Args, 0);
+"""
+
+
+def every_creation(calls):
+    """A program that creates one widget by each function; some belong into menus."""
+    text = CREATION_START
+    for name in sorted(calls):
+        parent = "Menu" if "Cascade" in name or "TearOff" in name else "Board"
+        text += (f'   Report\n     ("{name}",\n'
+                 f'      Xm1_2_2.{name} ({parent}, "it", Args, 0));\n')
+    return text + "end Every_Creation;\n"
+
+
+def all_modules(vocabulary, gadgets, aliases, calls):
+    """The text of each module, and of the program, by its file name."""
     return {
+        "every_creation.adb": every_creation(calls),
         "every_class.uil": every_class(vocabulary, gadgets),
         "every_class_object.uil": every_class_object(vocabulary, aliases),
         "every_argument.uil": every_argument(vocabulary),
