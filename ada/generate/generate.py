@@ -325,7 +325,8 @@ def check_identifiers(spec):
 def xm_spec(toolkit, calls):
     parts = [HEAD, comment("The toolkit's functions, class objects and constants that the "
                            "translator's units name.").replace("   --", "--"),
-             "\n", PRAGMA, "with XlibR5;\nwith Xm;\nwith XtR5;\n\npackage Xm1_2_2 is\n\n", TYPES, "\n",
+             "\n", PRAGMA, "with XlibR5;\nwith Xm;\nwith XtR5;\n\n",
+             "package Xm1_2_2 is\n\n", TYPES, "\n",
              *constant_lines(toolkit), "\n", *class_lines(toolkit), "\n",
              *child_lines(toolkit), "\n", *create_lines(calls), "\nend Xm1_2_2;\n"]
     spec = "".join(parts)

@@ -30,8 +30,8 @@ def _table(text, name):
 def _auto_children(text):
     """The child's UIL name and the names of the groups of classes that create it."""
     rows = re.findall(r'AutoChild\("(\w+)", "\w+", ([\w, ]+)\)', text)
-    groups = dict(re.findall(r"constexpr auto (k\w+)\s*=\s*std::to_array<const char \*>\(\{(.*?)\}\)",
-                             text, re.DOTALL))
+    array = r"constexpr auto (k\w+)\s*=\s*std::to_array<const char \*>\(\{(.*?)\}\)"
+    groups = dict(re.findall(array, text, re.DOTALL))
     return [(child, [parent for group in names.split(", ")
                      for parent in re.findall(r'"(\w+)"', groups[group])])
             for child, names in rows]
