@@ -54,7 +54,7 @@ package XtR5 is
    type ArgList is array (Integer range <>) of aliased Arg;
    pragma Convention (C, ArgList);
 
-   --  Fills one argument.  The name may be a passing text: the argument points at a copy that lasts.
+   --  Fills one argument.  The name may be a passing text: a copy that lasts is pointed at.
    procedure SetArg (Item : out Arg; Name : String; Value : ArgVal);
    procedure SetArg (Item : out Arg; Name : String; Value : Integer);
    procedure SetArg (Item : out Arg; Name : String; Value : Boolean);
