@@ -9,7 +9,6 @@ package body XtR5 is
 
    package C renames Interfaces.C;
    package CS renames Interfaces.C.Strings;
-   use type C.size_t;
    use type C.unsigned_char;
 
    function C_Text (Text : String) return String renames XlibR5.C_Text;
