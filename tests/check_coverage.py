@@ -19,6 +19,8 @@ import pathlib
 import re
 import sys
 
+from c_texts import arguments, c_tokens, literals
+
 PREFIXES = {"kSyntax": "  syntax: expected ", "kError": "   error: ", "kWarning": " warning: "}
 
 OUT_OF_REACH = {
@@ -29,55 +31,6 @@ OUT_OF_REACH = {
     "Cannot use %s as module name because it conflicts with %s":
         "the module's name is the first of all",
 }
-
-# A quoted text or character, a comment, a preprocessor line, or any one character.
-C_TOKEN = re.compile(
-    r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*|.',
-    re.DOTALL | re.MULTILINE)
-ESCAPES = {"n": "\n", "t": "\t", '"': '"', "'": "'", "\\": "\\"}
-
-
-def unquoted(literal):
-    """The text that a C string literal stands for; the few escapes that messages use."""
-    return re.sub(r"\\(.)", lambda match: ESCAPES[match[1]], literal[1:-1], flags=re.DOTALL)
-
-
-def c_tokens(text):
-    """The pieces of C text: literals whole, other characters singly, without comments."""
-    for match in C_TOKEN.finditer(text):
-        token = match[0]
-        if not token.startswith(("//", "/*")) and not token.lstrip(" \t").startswith("#"):
-            yield token
-
-
-def literals(text):
-    """The string literals of C text, adjacent ones joined."""
-    joined, result = None, []
-    for token in c_tokens(text):
-        if token.startswith('"'):
-            joined = (joined or "") + unquoted(token)
-        elif not token.isspace():
-            if joined is not None:
-                result.append(joined)
-            joined = None
-    return result + ([joined] if joined is not None else [])
-
-
-def arguments(text, start):
-    """The arguments of the call whose opening parenthesis ends just before `start`."""
-    result, depth = [""], 0
-    for token in c_tokens(text[start:]):
-        if token in ("(", "{", "["):
-            depth += 1
-        elif token in (")", "}", "]"):
-            if depth == 0:
-                break
-            depth -= 1
-        if token == "," and depth == 0:
-            result.append("")
-        else:
-            result[-1] += token
-    return [argument.strip() for argument in result]
 
 
 def reported_texts(text):

@@ -1,0 +1,402 @@
+#!/usr/bin/env python3
+"""Checks that nothing the program can write is unproved, and that doc/conformance.md tells the truth.
+
+    tests/check_conformance.py [--root FOLDER] [--build FOLDER] [--texts]
+
+1. Every text of the sources (templates, messages, usage, tables), cut at its format directives, must
+   stand in an expected file of a case or in a text that a unit test asserts.  What cannot is listed
+   below with the reason; an entry that has become needless is a fault too.
+2. Every row of doc/conformance.md names its proof in its last cell: `unit: Suite.Test`,
+   `case: folder` or `test: name`, each of which must exist.  Where the first cell of a table is a
+   message or a text, each proof must show it; where it is an option, each proof must use it.
+3. Every message, usage text and option of the sources must have a row.
+4. With --build, each proof must have passed in the last run of ctest in that folder, and that run
+   must be no older than the program.
+
+Prints the faults and the counts; the exit status is 1 when there are faults.  --texts prints instead
+the texts of the sources with the cases and unit tests that show them.
+"""
+
+import argparse
+import collections
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+from c_texts import arguments, c_tokens, is_literal, literals, unquoted
+
+RECORD = pathlib.Path("doc") / "conformance.md"
+
+# Texts that no test can show, with the reason.
+UNSHOWN = {
+    "two rows for one kind": "a static_assert",
+    "/dev/null": "opened in place of a closed standard stream; never written",
+    " Creating main program ": "the form of a `-main` of \"-\", which the options never give",
+    "#rrrrggggbbbb": "stands for its length only",
+    ".kivut": "the name of a file that lives for an instant beside a unit",
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-":
+        "the letters of such a name",
+    "LexicalError: Memory allocation failure": "when a text of some bytes finds no memory",
+    "EncodePrintably: Memory allocation error": "when a text of some bytes finds no memory",
+    "btnvfr": "the letters behind the backslashes, which a unit test shows one by one",
+}
+
+DIRECTIVE = re.compile(r"%[-+ 0#]*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|ll|[hlzjt])?[a-zA-Z]|%%")
+# Calls of unit tests whose texts are input, not what is expected.
+INPUT_CALLS = re.compile(r"\b(?:Put|Parse|Scan|Lex)\s*\(")
+# Where the reporting functions have their text.
+REPORTS = {"ErrorMessage": 1, "ErrorFormat": 1, "FatalErrorMessage": 0, "FatalErrorFormat": 0,
+           "LexicalError": 2, "UilPrintf": 1, "NameFault": -1, "RegisterAdaName": -1,
+           "std::printf": 0, "std::fprintf": 1}
+
+
+def read(path):
+    return path.read_text("latin-1")
+
+
+def fragments(text):
+    """The pieces of a format that say something."""
+    return [piece for piece in DIRECTIVE.split(text)
+            if len(piece.strip()) >= 3 and re.search("[A-Za-z]", piece)]
+
+
+def source_files(root):
+    return [path for path in sorted((root / "src").iterdir())
+            if path.suffix in (".cpp", ".h", ".l", ".y")]
+
+
+def source_texts(root):
+    """The texts of the sources, each with the file that has it first."""
+    texts = {}
+    for path in source_files(root):
+        for text in literals(read(path)):
+            texts.setdefault(text, path.name)
+    return texts
+
+
+def expected_files(case):
+    return [path for path in [case / "stdout", case / "stderr", *sorted(case.glob("expected/**/*"))]
+            if path.is_file()]
+
+
+def case_texts(root):
+    """What each case expects, all its files in one."""
+    return {case.name: "\0".join(read(path) for path in expected_files(case))
+            for case in sorted((root / "tests" / "cases").glob("*")) if case.is_dir()}
+
+
+def without_inputs(text):
+    """C text without the arguments of the calls that only feed the program."""
+    kept, last = [], 0
+    for call in INPUT_CALLS.finditer(text):
+        if call.start() >= last:
+            kept.append(text[last:call.end()])
+            last = call.end() + sum(len(each) for each in arguments(text, call.end()))
+    return "".join(kept) + text[last:]
+
+
+def unit_texts(root):
+    """What each file of unit tests asserts."""
+    return {path.name: "\0".join(literals(without_inputs(read(path))))
+            for path in sorted((root / "tests" / "unit").glob("*"))
+            if path.suffix in (".cpp", ".h")}
+
+
+# -- 1. Texts ------------------------------------------------------------------------------------
+
+
+def unshown_texts(root, exceptions):
+    shown = "\0".join([*case_texts(root).values(), *unit_texts(root).values()])
+    faults, needed, count = [], set(), 0
+    for text, source in source_texts(root).items():
+        for piece in fragments(text):
+            count += 1
+            if piece not in shown:
+                needed.add(piece)
+                if piece not in exceptions:
+                    faults.append(f"{source}: no test shows {piece!r}")
+    faults += [f"listed as not shown, but shown or gone: {text!r}"
+               for text in exceptions if text not in needed]
+    return faults, count
+
+
+# -- 2. The record -------------------------------------------------------------------------------
+
+Row = collections.namedtuple("Row", "line sort first texts proofs rest")
+PROOF = re.compile(r"\b(unit|case|test): ([\w.-]+)")
+CODE = re.compile(r"(`+) ?(.+?) ?\1(?!`)")
+
+
+def cells(line):
+    """The cells of a row of a table; a bar behind a backslash parts no cells."""
+    return [cell.strip().replace("\\|", "|")
+            for cell in re.split(r"(?<!\\)\|", line.strip().strip("|"))]
+
+
+def record_rows(text):
+    """The rows of the tables of the record; the sort of a row is the first heading of its table."""
+    rows, sort = [], None
+    lines = text.split("\n")
+    for number, line in enumerate(lines):
+        if not line.startswith("|"):
+            sort = None
+        elif sort is None:
+            sort = cells(line)[0]
+        elif not re.fullmatch(r"[|\s:-]+", line):
+            row = cells(line)
+            texts = [match[2] for match in CODE.finditer(row[0])]
+            rows.append(Row(number + 1, sort, row[0], texts, PROOF.findall(row[-1]),
+                            PROOF.sub("", row[-1]).strip(" ,")))
+    return rows
+
+
+def written(text):
+    """A text as it stands in the record."""
+    return text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").strip(" ")
+
+
+def unwritten(text):
+    return re.sub(r"\\(.)", lambda match: {"n": "\n", "t": "\t"}.get(match[1], match[1]), text)
+
+
+def unit_tests(root):
+    """The unit tests, each with the file that holds it."""
+    tests = {}
+    for path in sorted((root / "tests" / "unit").glob("*.cpp")):
+        for macro in re.finditer(r"^TEST(?:_F)?\((\w+),\s*(\w+)\)", read(path), re.MULTILINE):
+            tests[f"{macro[1]}.{macro[2]}"] = path.name
+    return tests
+
+
+def other_tests(root):
+    lists = [read(path) for path in sorted((root / "tests").glob("**/CMakeLists.txt"))]
+    return {name for text in lists for name in re.findall(r"add_test\(NAME\s+([\w.]+)", text)}
+
+
+def used_options(case):
+    """The words of a case's command line and of its input files, which may be options."""
+    words = read(case / "command").split()
+    for path in sorted(case.glob("input/**/*")):
+        if path.is_file():
+            words += read(path).split()
+    return words
+
+
+class Proofs:
+    """What the tests of a tree show."""
+
+    def __init__(self, root):
+        self.root = root
+        self.cases = case_texts(root)
+        self.units = unit_texts(root)
+        self.unit_tests = unit_tests(root)
+        self.others = other_tests(root)
+
+    def exists(self, sort, name):
+        known = {"unit": self.unit_tests, "case": self.cases, "test": self.others}
+        return name in known[sort]
+
+    def shows(self, sort, name, text):
+        if sort == "test":
+            return True
+        shown = self.cases[name] if sort == "case" else self.units[self.unit_tests[name]]
+        return all(piece in shown for piece in fragments(unwritten(text)))
+
+    def uses(self, sort, name, option):
+        if sort == "case":
+            words = used_options(self.root / "tests" / "cases" / name)
+        elif sort == "unit":
+            path = self.root / "tests" / "unit" / self.unit_tests[name]
+            words = [word for text in literals(read(path)) for word in text.split()]
+        else:
+            return True
+        return any(word.startswith(option) for word in words)
+
+
+def row_faults(row, proofs):
+    where = f"{RECORD}:{row.line}"
+    faults = []
+    if not row.proofs or row.rest:
+        faults.append(f"{where}: no proof, or something else beside it: {row.first}")
+    for sort, name in row.proofs:
+        if not proofs.exists(sort, name):
+            faults.append(f"{where}: there is no {sort} {name}")
+            continue
+        for text in row.texts if row.sort in ("message", "text") else []:
+            if not proofs.shows(sort, name, text):
+                faults.append(f"{where}: {sort} {name} does not show {text}")
+        for text in row.texts if row.sort == "option" else []:
+            if not proofs.uses(sort, name, text.split()[0]):
+                faults.append(f"{where}: {sort} {name} does not use {text}")
+    return faults
+
+
+def record_faults(root, rows):
+    proofs = Proofs(root)
+    return [fault for row in rows for fault in row_faults(row, proofs)]
+
+
+# -- 3. What must have a row -----------------------------------------------------------------------
+
+
+def has_words(text):
+    return re.match(r"[A-Z(<\[-].* \S|[a-z]\S+ \S", text) is not None and "\n    " not in text
+
+
+def reported_texts(text):
+    """The texts of a source that are reported.  Where a call has its text in a variable, that may be
+    any text of the file that has words in it."""
+    found, handed_on = [], False
+    for call in re.finditer(r"(?<![\w:])((?:std::)?\w+)\s*\(", text):
+        if call[1] not in REPORTS or re.search(r"(?:void|void )\s$", text[:call.start()][-5:]):
+            continue
+        given = arguments(text, call.end())
+        if call[1] == "std::fprintf" and given[0] not in ("stderr", "stream"):
+            continue
+        place = REPORTS[call[1]]
+        if place < len(given):
+            found += literals(given[place])
+            handed_on |= not any(fragments(each) for each in literals(given[place]))
+    if handed_on:
+        found += [each for each in literals(text) if has_words(each)]
+    return [each for each in dict.fromkeys(found) if fragments(each)]
+
+
+def messages(root):
+    """Every message, with the file that reports it."""
+    result = {}
+    for path in source_files(root):
+        if path.suffix == ".h" or path.name in ("Emit.cpp", "Usage.cpp", "Listing.cpp"):
+            continue
+        for text in reported_texts(read(path)):
+            result.setdefault(text, path.name)
+    for name in ("ParseUsage.cpp", "Options.cpp", "ConfigFile.cpp"):
+        path = root / "src" / name
+        if path.exists():
+            for text in literals(read(path)):
+                if has_words(text):
+                    result.setdefault(text, name)
+    return result
+
+
+def options(root):
+    path = root / "src" / "Options.cpp"
+    texts = literals(read(path)) if path.exists() else []
+    return [text for text in dict.fromkeys(texts) if re.fullmatch(r"-[A-Za-z]\w*", text)]
+
+
+def missing_rows(root, rows):
+    have = {text for row in rows if row.sort in ("message", "text") for text in row.texts}
+    have_options = {text.split()[0] for row in rows if row.sort == "option" for text in row.texts}
+    faults, count = [], 0
+    for text, source in messages(root).items():
+        count += 1
+        if written(text) not in have:
+            faults.append(f"{source}: no row for the message `{written(text)}`")
+    for option in options(root):
+        count += 1
+        if option not in have_options:
+            faults.append(f"Options.cpp: no row for the option {option}")
+    return faults, count
+
+
+# -- 4. The last run -------------------------------------------------------------------------------
+
+
+def run_results(log):
+    """What the log of a run of ctest tells: name of a test, and whether it has passed.  A test that
+    runs several unit tests tells of each."""
+    results = {}
+    for block in re.split(r"(?m)^\d+/\d+ Testing: ", log)[1:]:
+        results[block.split("\n", 1)[0].strip()] = "\nTest Passed." in block
+        for verdict, name in re.findall(r"(?m)^\[ +(OK|FAILED) +\] ([\w.]+)", block):
+            results[name] = verdict == "OK"
+    return results
+
+
+def registered_tests(build):
+    """The names of the tests that ctest knows, and those of the unit tests in their programs."""
+    shown = subprocess.run(["ctest", "--test-dir", str(build), "--show-only=json-v1"], check=True,
+                           capture_output=True, text=True).stdout
+    tests = json.loads(shown)["tests"]
+    names = {test["name"] for test in tests}
+    programs = {test["command"][0] for test in tests
+                if any("--gtest_filter" in word for word in test.get("command", []))}
+    for program in sorted(programs):
+        listed = subprocess.run([program, "--gtest_list_tests"], check=True, capture_output=True,
+                                text=True).stdout
+        suite = ""
+        for line in listed.split("\n"):
+            if line.startswith("  "):
+                names.add(suite + line.split()[0])
+            else:
+                suite = line.split(" ")[0]
+    return names
+
+
+def run_faults(rows, registered, results):
+    faults = []
+    for sort, name in dict.fromkeys(proof for row in rows for proof in row.proofs):
+        full = f"case.{name}" if sort == "case" else name
+        if full not in registered:
+            faults.append(f"not known to ctest: {full}")
+        elif full not in results:
+            faults.append(f"did not run in the last run: {full}")
+        elif not results[full]:
+            faults.append(f"failed in the last run: {full}")
+    return faults
+
+
+def last_run_faults(build, rows):
+    log = build / "Testing" / "Temporary" / "LastTest.log"
+    program = build / "kivuxl"
+    if not log.exists():
+        return [f"no test has run in {build}"]
+    if program.exists() and log.stat().st_mtime < program.stat().st_mtime:
+        return [f"{program} is newer than the last run of the tests"]
+    return run_faults(rows, registered_tests(build), run_results(read(log)))
+
+
+# -- All together ----------------------------------------------------------------------------------
+
+
+def print_texts(root):
+    """For whoever writes rows: each message and the cases and files of unit tests that show it."""
+    proofs = Proofs(root)
+    for text, source in messages(root).items():
+        cases = [name for name in proofs.cases if proofs.shows("case", name, written(text))]
+        units = [name for name, shown in proofs.units.items()
+                 if all(piece in shown for piece in fragments(text))]
+        print(f"{source}: {written(text)}\n    {' '.join(cases)}\n    {' '.join(units)}")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--root", type=pathlib.Path,
+                        default=pathlib.Path(__file__).resolve().parent.parent)
+    parser.add_argument("--build", type=pathlib.Path)
+    parser.add_argument("--texts", action="store_true")
+    given = parser.parse_args()
+    if given.texts:
+        print_texts(given.root)
+        return 0
+
+    rows = record_rows((given.root / RECORD).read_text("utf-8"))
+    faults, texts = unshown_texts(given.root, UNSHOWN)
+    faults += record_faults(given.root, rows)
+    missing, wanted = missing_rows(given.root, rows)
+    faults += missing
+    if given.build:
+        faults += last_run_faults(given.build, rows)
+    for fault in faults:
+        print(fault)
+    proofs = {proof for row in rows for proof in row.proofs}
+    print(f"{texts} texts, {wanted} messages and options, {len(rows)} rows, {len(proofs)} proofs, "
+          f"{len(faults)} faults")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
