@@ -46,6 +46,8 @@ UNSHOWN = {
 DIRECTIVE = re.compile(r"%[-+ 0#]*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|ll|[hlzjt])?[a-zA-Z]|%%")
 # Calls of unit tests whose texts are input, not what is expected.
 INPUT_CALLS = re.compile(r"\b(?:Put|Parse|Scan|Lex)\s*\(")
+# Options that may have their argument in the same word.
+JOINED_OPTIONS = ("-I", "-spec", "-body")
 # Where the reporting functions have their text.
 REPORTS = {"ErrorMessage": 1, "ErrorFormat": 1, "FatalErrorMessage": 0, "FatalErrorFormat": 0,
            "LexicalError": 2, "UilPrintf": 1, "NameFault": -1, "RegisterAdaName": -1,
@@ -97,9 +99,14 @@ def without_inputs(text):
     return "".join(kept) + text[last:]
 
 
+def asserted(text):
+    """The texts that a unit test expects, all in one."""
+    return "\0".join(literals(without_inputs(text)))
+
+
 def unit_texts(root):
     """What each file of unit tests asserts."""
-    return {path.name: "\0".join(literals(without_inputs(read(path))))
+    return {path.name: asserted(read(path))
             for path in sorted((root / "tests" / "unit").glob("*"))
             if path.suffix in (".cpp", ".h")}
 
@@ -126,6 +133,7 @@ def unshown_texts(root, exceptions):
 
 Row = collections.namedtuple("Row", "line sort first texts proofs rest")
 PROOF = re.compile(r"\b(unit|case|test): ([\w.-]+)")
+UNREACHABLE = re.compile(r"unreachable: \S.*")
 CODE = re.compile(r"(`+) ?(.+?) ?\1(?!`)")
 
 
@@ -148,7 +156,7 @@ def record_rows(text):
             row = cells(line)
             texts = [match[2] for match in CODE.finditer(row[0])]
             rows.append(Row(number + 1, sort, row[0], texts, PROOF.findall(row[-1]),
-                            PROOF.sub("", row[-1]).strip(" ,")))
+                            re.sub(r"[, ]*" + PROOF.pattern, "", row[-1])))
     return rows
 
 
@@ -161,12 +169,19 @@ def unwritten(text):
     return re.sub(r"\\(.)", lambda match: {"n": "\n", "t": "\t"}.get(match[1], match[1]), text)
 
 
+UNIT_TEST = re.compile(r"^TEST(?:_F)?\((\w+),\s*(\w+)\) \{(.*?)(?:^|(?<=; ))\}$",
+                       re.DOTALL | re.MULTILINE)
+
+
 def unit_tests(root):
-    """The unit tests, each with the file that holds it."""
+    """The unit tests, each with what it asserts: its own texts, and those that its file holds for
+    all of its tests."""
     tests = {}
     for path in sorted((root / "tests" / "unit").glob("*.cpp")):
-        for macro in re.finditer(r"^TEST(?:_F)?\((\w+),\s*(\w+)\)", read(path), re.MULTILINE):
-            tests[f"{macro[1]}.{macro[2]}"] = path.name
+        text = read(path)
+        shared = asserted(UNIT_TEST.sub("", text))
+        for test in UNIT_TEST.finditer(text):
+            tests[f"{test[1]}.{test[2]}"] = asserted(test[3]) + "\0" + shared
     return tests
 
 
@@ -190,35 +205,35 @@ class Proofs:
     def __init__(self, root):
         self.root = root
         self.cases = case_texts(root)
-        self.units = unit_texts(root)
-        self.unit_tests = unit_tests(root)
+        self.units = unit_tests(root)
         self.others = other_tests(root)
 
     def exists(self, sort, name):
-        known = {"unit": self.unit_tests, "case": self.cases, "test": self.others}
+        known = {"unit": self.units, "case": self.cases, "test": self.others}
         return name in known[sort]
 
     def shows(self, sort, name, text):
         if sort == "test":
             return True
-        shown = self.cases[name] if sort == "case" else self.units[self.unit_tests[name]]
+        shown = (self.cases if sort == "case" else self.units)[name]
         return all(piece in shown for piece in fragments(unwritten(text)))
 
     def uses(self, sort, name, option):
         if sort == "case":
             words = used_options(self.root / "tests" / "cases" / name)
         elif sort == "unit":
-            path = self.root / "tests" / "unit" / self.unit_tests[name]
-            words = [word for text in literals(read(path)) for word in text.split()]
+            words = self.units[name].replace("\0", " ").split()
         else:
             return True
-        return any(word.startswith(option) for word in words)
+        joined = option in JOINED_OPTIONS
+        return any(word == option or joined and word.startswith(option) for word in words)
 
 
 def row_faults(row, proofs):
     where = f"{RECORD}:{row.line}"
     faults = []
-    if not row.proofs or row.rest:
+    unreachable = not row.proofs and UNREACHABLE.fullmatch(row.rest)
+    if not unreachable and (not row.proofs or row.rest):
         faults.append(f"{where}: no proof, or something else beside it: {row.first}")
     for sort, name in row.proofs:
         if not proofs.exists(sort, name):
@@ -307,10 +322,11 @@ def missing_rows(root, rows):
 
 def run_results(log):
     """What the log of a run of ctest tells: name of a test, and whether it has passed.  A test that
-    runs several unit tests tells of each."""
+    runs several unit tests tells of each.  One that was skipped has not run."""
     results = {}
     for block in re.split(r"(?m)^\d+/\d+ Testing: ", log)[1:]:
-        results[block.split("\n", 1)[0].strip()] = "\nTest Passed." in block
+        if "\n[  SKIPPED ] " not in block:
+            results[block.split("\n", 1)[0].strip()] = "\nTest Passed." in block
         for verdict, name in re.findall(r"(?m)^\[ +(OK|FAILED) +\] ([\w.]+)", block):
             results[name] = verdict == "OK"
     return results
@@ -366,10 +382,10 @@ def print_texts(root):
     """For whoever writes rows: each message and the cases and files of unit tests that show it."""
     proofs = Proofs(root)
     for text, source in messages(root).items():
-        cases = [name for name in proofs.cases if proofs.shows("case", name, written(text))]
-        units = [name for name, shown in proofs.units.items()
-                 if all(piece in shown for piece in fragments(text))]
-        print(f"{source}: {written(text)}\n    {' '.join(cases)}\n    {' '.join(units)}")
+        print(f"{source}: {written(text)}")
+        for sort, names in (("case", proofs.cases), ("unit", proofs.units)):
+            shown = [name for name in names if proofs.shows(sort, name, written(text))]
+            print(f"    {sort}: {' '.join(shown)}")
 
 
 def main():
