@@ -4,8 +4,9 @@
     tests/check_conformance.py [--root FOLDER] [--build FOLDER] [--texts]
 
 1. Every text of the sources (templates, messages, usage, tables), cut at its format directives, must
-   stand in an expected file of a case or in a text that a unit test asserts.  What cannot is listed
-   below with the reason; an entry that has become needless is a fault too.
+   stand in an expected file of a case or in a text that a unit test asserts, and so must each of
+   its lines as a whole, with something for each directive.  What cannot is listed below with the
+   reason; an entry that has become needless is a fault too.
 2. Every row of doc/conformance.md names its proof in its last cell: `unit: Suite.Test`,
    `case: folder` or `test: name`, each of which must exist.  Where the first cell of a table is a
    message or a text, each proof must show it; where it is an option, each proof must use it.
@@ -114,16 +115,40 @@ def unit_texts(root):
 # -- 1. Texts ------------------------------------------------------------------------------------
 
 
+def line_pattern(line):
+    """A regular expression for the lines that a line of a format gives."""
+    wild = {"d": r"-?\d+", "u": r" *\d+", "c": ".", "o": "[0-7]+", "x": "[0-9a-f]+", "%": "%"}
+    pattern, last = "", 0
+    for match in DIRECTIVE.finditer(line):
+        pattern += re.escape(line[last:match.start()]) + wild.get(match[0][-1], ".*")
+        last = match.end()
+    return re.compile(pattern + re.escape(line[last:]))
+
+
+def unshown_lines(text, lines):
+    """The lines of a format that no line shows whole, though its pieces stand here and there."""
+    for line in text.split("\n"):
+        pieces = fragments(line)
+        if pieces and pieces != [line]:
+            longest = max(pieces, key=len)
+            pattern = line_pattern(line)
+            if not any(longest in each and pattern.search(each) for each in lines):
+                yield line
+
+
 def unshown_texts(root, exceptions):
     shown = "\0".join([*case_texts(root).values(), *unit_texts(root).values()])
+    lines = set(re.split("[\n\0]", shown))
     faults, needed, count = [], set(), 0
     for text, source in source_texts(root).items():
-        for piece in fragments(text):
-            count += 1
-            if piece not in shown:
-                needed.add(piece)
-                if piece not in exceptions:
-                    faults.append(f"{source}: no test shows {piece!r}")
+        missing = [piece for piece in fragments(text) if piece not in shown]
+        needed.update(missing)
+        faults += [f"{source}: no test shows {piece!r}"
+                   for piece in missing if piece not in exceptions]
+        count += len(fragments(text))
+        if not missing:
+            faults += [f"{source}: no line shows {line!r} whole"
+                       for line in unshown_lines(text, lines)]
     faults += [f"listed as not shown, but shown or gone: {text!r}"
                for text in exceptions if text not in needed]
     return faults, count

@@ -94,6 +94,10 @@ class Conformance(unittest.TestCase):
         faults = self.faults({"src/Ada.cpp": {"    null;": "   null;"}})
         self.assertEqual(faults, ["Ada.cpp: no test shows ' is\\n   null;\\n'"])
 
+    def test_line_that_is_shown_in_pieces(self):
+        faults = self.faults({"src/Ada.cpp": {"// ": "x(\"  begin %d is\"); // "}})
+        self.assertEqual(faults, ["Ada.cpp: no line shows '  begin %d is' whole"])
+
     def test_input_of_a_test_shows_nothing(self):
         faults = self.faults({"src/Ada.cpp": {"// ": "x(\" | end\"); // "}})
         self.assertEqual(faults, ["Ada.cpp: no test shows ' | end'"])
