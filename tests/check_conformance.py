@@ -47,8 +47,9 @@ DIRECTIVE = re.compile(r"%[-+ 0#]*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|ll|[hlzjt])?
 # So many tests that did not run are named.
 MANY = 20
 # Calls of unit tests whose texts are input, not what is expected.
-INPUT_CALLS = re.compile(r"\b(?:Put|PutLines|PutListing|ParseText|TokensOf|Open|FilesOpen|Declare|Define|Inline"
-    r"|Automatic|Reference|Ref|Argument|Callback|Invoke|Reason|Procedure|Shell|ShellOption|Font|Segment)\s*\(")
+INPUT_CALLS = re.compile(
+    r"\b(?:Put|PutLines|PutListing|ParseText|TokensOf|Open|FilesOpen|Declare|Define|Inline|Automatic"
+    r"|Reference|Ref|Argument|Callback|Invoke|Reason|Procedure|Shell|ShellOption|Font|Segment)\s*\(")
 # Options that may have their argument in the same word.
 JOINED_OPTIONS = ("-I", "-spec", "-body")
 # Where the reporting functions have their text.
