@@ -3,8 +3,8 @@ and the arguments of calls."""
 
 import re
 
-# A raw string, a quoted text or character, a comment, a preprocessor line, a word or a number (whose
-# digits may be parted by quotes), or any one character.
+# A raw string, a quoted text or character, a comment, a preprocessor line, a word or a number
+# (whose digits may be parted by quotes), or any one character.
 TOKEN = re.compile(
     r'R"(?P<mark>[^( ]*)\((?P<raw>.*?)\)(?P=mark)"'
     r'|"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*'

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Checks that nothing the program can write is unproved, and that doc/conformance.md tells the truth.
+"""Checks that whatever the program can write is shown, and that doc/conformance.md is true.
 
     tests/check_conformance.py [--root FOLDER] [--build FOLDER] [--texts]
 
-1. Every text of the sources (templates, messages, usage, tables), cut at its format directives, must
-   stand in an expected file of a case or in a text that a unit test asserts, and so must each of
-   its lines as a whole, with something for each directive.  What cannot is listed below with the
-   reason; an entry that has become needless is a fault too.
+1. Every text of the sources (templates, messages, usage, tables), cut at its format directives,
+   must stand in an expected file of a case or in a text that a unit test asserts, and so must each
+   of its lines as a whole, with something for each directive.  What cannot is listed below with
+   the reason; an entry that has become needless is a fault too.
 2. Every row of doc/conformance.md names its proof in its last cell: `unit: Suite.Test`,
    `case: folder` or `test: name`, each of which must exist.  Where the first cell of a table is a
    message or a text, each proof must show it; where it is an option, each proof must use it.
@@ -14,8 +14,8 @@
 4. With --build, each proof must have passed in the last run of ctest in that folder, and that run
    must be no older than the program.
 
-Prints the faults and the counts; the exit status is 1 when there are faults.  --texts prints instead
-the texts of the sources with the cases and unit tests that show them.
+Prints the faults and the counts; the exit status is 1 when there are faults.  --texts prints
+instead the messages of the sources with the cases and unit tests that show them.
 """
 
 import argparse
@@ -48,8 +48,9 @@ DIRECTIVE = re.compile(r"%[-+ 0#]*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|ll|[hlzjt])?
 MANY = 20
 # Calls of unit tests whose texts are input, not what is expected.
 INPUT_CALLS = re.compile(
-    r"\b(?:Put|PutLines|PutListing|ParseText|TokensOf|Open|FilesOpen|Declare|Define|Inline|Automatic"
-    r"|Reference|Ref|Argument|Callback|Invoke|Reason|Procedure|Shell|ShellOption|Font|Segment)\s*\(")
+    r"\b(?:Put|PutLines|PutListing|ParseText|TokensOf|Open|FilesOpen|Declare|Define|Inline"
+    r"|Automatic|Reference|Ref|Argument|Callback|Invoke|Reason|Procedure|Shell|ShellOption|Font"
+    r"|Segment)\s*\(")
 # Options that may have their argument in the same word.
 JOINED_OPTIONS = ("-I", "-spec", "-body")
 # Where the reporting functions have their text.
@@ -289,11 +290,11 @@ def has_words(text):
 
 
 def reported_texts(text):
-    """The texts of a source that are reported.  Where a call has its text in a variable, that may be
-    any text of the file that has words in it."""
+    """The texts of a source that are reported.  Where a call has its text in a variable, that may
+    be any text of the file that has words in it."""
     found, handed_on = [], False
     for call in re.finditer(r"(?<![\w:])((?:std::)?\w+)\s*\(", text):
-        if call[1] not in REPORTS or re.search(r"(?:void|void )\s$", text[:call.start()][-5:]):
+        if call[1] not in REPORTS or text.endswith("void ", 0, call.start()):
             continue
         given = arguments(text, call.end())
         if call[1] == "std::fprintf" and given[0] not in ("stderr", "stream"):
