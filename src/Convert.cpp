@@ -170,6 +170,7 @@ static bool ReadModule(const char *filename) {
   if (!OpenListing()) {
     return false;
   }
+  listing_keeps_lines = listing_fp != nullptr;
   LoadVocabulary();
   const bool parsed = yyparse() == 0;
   error_count = WriteListing();

@@ -25,6 +25,7 @@
 #include "Scanner.h"
 
 List listing = nullptr;
+bool listing_keeps_lines = true;
 std::FILE *listing_fp = nullptr;
 std::time_t run_date_time = 0;
 
@@ -59,8 +60,8 @@ int ListingCompareFunc(const void *key, const void *item_key) {
   FatalErrorMessage("PutListing: Memory allocation error", 1);
 }
 
-// A fresh line of the file being read, at the end of the listing.
-static ListingLine *ListingNewLine() {
+// A line without text, at the end of the listing.
+static ListingLine *ListingAddLine() {
   if (listing == nullptr) {
     listing = ListCreate(ListingCompareFunc, nullptr, ListingKeyFunc);
   }
@@ -70,18 +71,28 @@ static ListingLine *ListingNewLine() {
   if (listing == nullptr || memory == nullptr || text == nullptr) {
     ListingExhausted();
   }
-  text[0] = '\0';
-  const auto *file = static_cast<const FileInfo *>(ListGetLast(filenames));
   auto *line = new (memory) ListingLine{};
-  line->file_number = file == nullptr ? 0 : file->nfile;
-  line->line_number = file == nullptr ? 0 : yylineno;
-  line->file_name = file == nullptr ? "" : file->name;
   line->maxlen = static_cast<int>(size);
   line->text = text;
   ListAppendItem(listing, line);
   if (ListGetLast(listing) != line) {
     ListingExhausted();
   }
+  return line;
+}
+
+// A fresh line of the file being read.  Without a listing file nobody looks at a line again that
+// has no diagnostics, so the next one takes its place: at 100,000 widgets that is 240 MB of 540.
+static ListingLine *ListingNewLine(ListingLine *last) {
+  const bool reuse = last != nullptr && !listing_keeps_lines && last->errors == nullptr;
+  ListingLine *line = reuse ? last : ListingAddLine();
+  const auto *file = static_cast<const FileInfo *>(ListGetLast(filenames));
+  line->file_number = file == nullptr ? 0 : file->nfile;
+  line->line_number = file == nullptr ? 0 : yylineno;
+  line->file_name = file == nullptr ? "" : file->name;
+  line->complete = false;
+  line->length = 0;
+  line->text[0] = '\0';
   return line;
 }
 
@@ -109,7 +120,7 @@ static void ListingReserve(ListingLine *line, int length) {
 void PutListing(const char *text, int length) {
   auto *line = static_cast<ListingLine *>(ListGetLast(listing));
   if (line == nullptr || line->complete) {
-    line = ListingNewLine();
+    line = ListingNewLine(line);
   }
   if (length <= 0) {
     return;
@@ -380,6 +391,7 @@ int WriteListing() {
 
 void ListingReset() {
   listing = nullptr;
+  listing_keeps_lines = true;
   if (listing_fp != nullptr) {
     std::fclose(listing_fp);
     listing_fp = nullptr;

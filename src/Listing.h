@@ -24,7 +24,8 @@ struct ListingLine {
   List errors;           // of ErrorRec, null without diagnostics
 };
 
-extern List listing;              // all lines in reading order
+extern List listing;              // the lines in reading order
+extern bool listing_keeps_lines;  // false: a line that is read, without diagnostics, is forgotten
 extern std::FILE *listing_fp;     // the open listing file, or null
 extern std::time_t run_date_time; // the time at start-up
 

@@ -117,6 +117,26 @@ TEST_F(Listing, PiecesBecomeLines) {
   EXPECT_STREQ(line->text, "end");
 }
 
+TEST_F(Listing, LinesWithoutDiagnosticsAreForgottenOnRequest) {
+  Open("");
+  listing_keeps_lines = false;
+  PutListing("a long first line of text\n", 26);
+  PutListing("bad\n", 4);
+  FilesAddError(static_cast<ListingLine *>(ListGetLast(listing)), kError, "odd");
+  PutListing("good\n", 5);
+  PutListing("end", 3);
+  ASSERT_EQ(ListLength(listing), 2U);
+  const auto *line = static_cast<const ListingLine *>(ListGetFirst(listing));
+  EXPECT_EQ(line->line_number, 2);
+  EXPECT_STREQ(line->text, "bad");
+  line = static_cast<const ListingLine *>(ListGetLast(listing));
+  EXPECT_EQ(line->line_number, 4);
+  EXPECT_STREQ(line->text, "end");
+  EXPECT_EQ(line->length, 3);
+  EXPECT_FALSE(line->complete);
+  EXPECT_EQ(line->errors, nullptr);
+}
+
 TEST_F(Listing, LineWithoutOpenFileHasNoPlace) {
   yylineno = 7;
   PutListing(nullptr, 0);
