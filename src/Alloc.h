@@ -3,9 +3,10 @@
 
 // The memory of the symbol model and its containers, and text helpers that take null.
 //
-// Nothing here prints or ends the program: exhaustion is a null result.  Each live block stands in
-// a private ring, so that AllocReset can give back whatever one translation has left.  Blocks are
-// aligned for every type; their contents are undefined until written.
+// Nothing here prints or ends the program: exhaustion is a null result.  The allocator knows all
+// its blocks, so that AllocReset can give back whatever one translation has left.  Blocks are
+// aligned to 8 bytes, those whose size is a multiple of 16 to 16, and so for every type that they
+// are made for; their contents are undefined until written.
 
 #include <cstddef>
 #include <cstdint>
@@ -48,7 +49,7 @@ char *SafeStrdup(const char *str);
 // Gives back every block that is still live.
 void AllocReset();
 
-// The number of live blocks.  For tests; walks them all.
+// The number of live blocks.  For tests.
 std::size_t AllocLiveBlocks();
 
 // For tests of exhaustion: after `n` further allocations each one fails; -1 ends that.  AllocReset
