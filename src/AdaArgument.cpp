@@ -77,11 +77,7 @@ const char *argument_object_type(std::int32_t kind) { return ValueObjectType(kin
 std::string ExpressionFormat(const char *format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  const int length = std::vsnprintf(nullptr, 0, format, arguments);
-  va_end(arguments);
-  std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
-  va_start(arguments, format);
-  std::vsnprintf(text.data(), text.size() + 1, format, arguments);
+  std::string text = EmitToString(format, arguments);
   va_end(arguments);
   return text;
 }

@@ -5,28 +5,37 @@
 
 #include "Emit.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdarg>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace {
 
-// What is still to go to the stream.  It is as large as most templates with their arguments.
+// Formatted text on its way to a stream or, where `file` is null, to a string.  The buffer is as
+// large as most templates with their arguments.
 struct EmitBuffer {
   std::FILE *file;
+  std::string *result;
   std::array<char, 2048> text;
   std::size_t length;
 };
 
 } // namespace
 
-static void EmitFlush(EmitBuffer *buffer) {
-  if (buffer->length != 0) {
-    std::fwrite(buffer->text.data(), 1, buffer->length, buffer->file);
-    buffer->length = 0;
+static void EmitBytes(const EmitBuffer &buffer, std::string_view bytes) {
+  if (buffer.file == nullptr) {
+    buffer.result->append(bytes);
+  } else {
+    std::fwrite(bytes.data(), 1, bytes.size(), buffer.file);
   }
+}
+
+static void EmitFlush(EmitBuffer *buffer) {
+  EmitBytes(*buffer, {buffer->text.data(), buffer->length});
+  buffer->length = 0;
 }
 
 static void EmitText(EmitBuffer *buffer, std::string_view text) {
@@ -34,7 +43,7 @@ static void EmitText(EmitBuffer *buffer, std::string_view text) {
     EmitFlush(buffer);
   }
   if (text.size() > buffer->text.size()) {
-    std::fwrite(text.data(), 1, text.size(), buffer->file);
+    EmitBytes(*buffer, text);
     return;
   }
   std::memcpy(buffer->text.data() + buffer->length, text.data(), text.size());
@@ -47,30 +56,60 @@ static void EmitNumber(EmitBuffer *buffer, int number) {
   EmitText(buffer, {digits.data(), static_cast<std::size_t>(end - digits.data())});
 }
 
-void Emit(std::FILE *file, const char *format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
-  EmitBuffer buffer;
-  buffer.file = file;
-  buffer.length = 0;
+// Formats what is left of a template by the library.
+static void EmitByLibrary(EmitBuffer *buffer, const char *format, std::va_list arguments) {
+  EmitFlush(buffer);
+  if (buffer->file != nullptr) {
+    std::vfprintf(buffer->file, format, arguments);
+    return;
+  }
+  std::va_list again;
+  va_copy(again, arguments);
+  const int length = std::max(std::vsnprintf(nullptr, 0, format, arguments), 0);
+  const std::size_t before = buffer->result->size();
+  buffer->result->resize(before + static_cast<std::size_t>(length));
+  std::vsnprintf(buffer->result->data() + before, static_cast<std::size_t>(length) + 1, format,
+                 again);
+  va_end(again);
+}
+
+static void EmitTemplate(EmitBuffer *buffer, const char *format, std::va_list arguments) {
   const char *rest = format;
   for (const char *sign = std::strchr(rest, '%'); sign != nullptr; sign = std::strchr(rest, '%')) {
-    EmitText(&buffer, {rest, static_cast<std::size_t>(sign - rest)});
+    EmitText(buffer, {rest, static_cast<std::size_t>(sign - rest)});
     rest = sign + 2;
     if (sign[1] == 's') {
       const char *text = va_arg(arguments, const char *);
-      EmitText(&buffer, text == nullptr ? "(null)" : text);
+      EmitText(buffer, text == nullptr ? "(null)" : text);
     } else if (sign[1] == 'd') {
-      EmitNumber(&buffer, va_arg(arguments, int));
+      EmitNumber(buffer, va_arg(arguments, int));
     } else if (sign[1] == '%') {
-      EmitText(&buffer, "%");
+      EmitText(buffer, "%");
     } else {
-      EmitFlush(&buffer);
-      std::vfprintf(file, sign, arguments);
-      rest = "";
+      EmitByLibrary(buffer, sign, arguments);
+      return;
     }
   }
-  EmitText(&buffer, rest);
-  EmitFlush(&buffer);
+  EmitText(buffer, rest);
+  EmitFlush(buffer);
+}
+
+void Emit(std::FILE *file, const char *format, ...) {
+  EmitBuffer buffer; // not cleared: that would take as long as the rest
+  buffer.file = file;
+  buffer.length = 0;
+  std::va_list arguments;
+  va_start(arguments, format);
+  EmitTemplate(&buffer, format, arguments);
   va_end(arguments);
+}
+
+std::string EmitToString(const char *format, std::va_list arguments) {
+  std::string result;
+  EmitBuffer buffer;
+  buffer.file = nullptr;
+  buffer.result = &result;
+  buffer.length = 0;
+  EmitTemplate(&buffer, format, arguments);
+  return result;
 }

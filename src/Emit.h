@@ -4,10 +4,16 @@
 // The one writer of generated text.  A template stands in the source as it comes out, one line of
 // output per source line; the compiler checks its arguments.
 
+#include <cstdarg>
 #include <cstdio>
+#include <string>
 
 // Writes the formatted text.  Failures stay in the stream's error indicator, which whoever closes
 // the unit checks.
 void Emit(std::FILE *file, const char *format, ...) __attribute__((format(printf, 2, 3)));
+
+// The formatted text itself.
+std::string EmitToString(const char *format, std::va_list arguments)
+    __attribute__((format(printf, 1, 0)));
 
 #endif
