@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <new>
 
 #include "Alloc.h"
@@ -23,19 +24,46 @@ struct HashSlotRec {
 constexpr std::uint32_t kDefaultBuckets = 511;
 constexpr std::uint32_t kMinBuckets = 31;
 constexpr std::uint32_t kMaxBuckets = 32767;
+constexpr std::uint32_t kAnyBucket = UINT32_MAX;
 constexpr std::uint32_t kFirstIndexSize = 64;
 constexpr std::uint32_t kMaxIndexSize = 0x80000000U;
 
-// FNV-1a over 64 bits; the last steps carry the high bits down to those that choose a place.
-std::uint32_t HashText(const char *text, bool fold) {
-  std::uint64_t hash = 0xcbf29ce484222325U;
-  for (; *text != '\0'; ++text) {
-    const char c = fold ? AsciiToLower(*text) : *text;
-    hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
-  }
+// Carries the high bits of a product down to those that choose a place.
+static std::uint32_t HashFinish(std::uint64_t hash) {
   hash ^= hash >> 33;
   hash *= 0xff51afd7ed558ccdU;
   return static_cast<std::uint32_t>(hash >> 32);
+}
+
+constexpr std::uint64_t kHashStart = 0xcbf29ce484222325U;
+constexpr std::uint64_t kHashFactor = 0x100000001b3U;
+
+// FNV-1a over 64 bits.
+static std::uint32_t HashFolded(const char *text) {
+  std::uint64_t hash = kHashStart;
+  for (; *text != '\0'; ++text) {
+    hash = (hash ^ static_cast<unsigned char>(AsciiToLower(*text))) * kHashFactor;
+  }
+  return HashFinish(hash);
+}
+
+// The same by words of eight bytes, the last one filled up with zeros.
+static std::uint32_t HashExact(const char *text) {
+  std::uint64_t hash = kHashStart;
+  for (std::size_t left = std::strlen(text); left > 0;) {
+    std::uint64_t word = 0;
+    const std::size_t part = std::min(left, sizeof(word));
+    std::memcpy(&word, text, part);
+    hash = (hash ^ word) * kHashFactor;
+    hash ^= hash >> 32;
+    text += part;
+    left -= part;
+  }
+  return HashFinish(hash);
+}
+
+std::uint32_t HashText(const char *text, bool fold) {
+  return fold ? HashFolded(text) : HashExact(text);
 }
 
 // -- Stock functions ---------------------------------------------------------------------------
@@ -105,14 +133,15 @@ static std::uint32_t HashIndexTag(const HashIndexRec &index, const char *key) {
   return HashText(key, index.compare == CaseInsensitiveCompareFunc);
 }
 
-// The link of that chain with an equal key, or null.
+// The link of that chain, or of any, with an equal key; or null.
 static HashBucketRec *HashIndexFind(const HashIndexRec &index, std::uint32_t bucket,
                                     const char *key) {
   const std::uint32_t tag = HashIndexTag(index, key);
   for (std::uint32_t place = tag & (index.size - 1); index.slots[place].link != nullptr;
        place = (place + 1) & (index.size - 1)) {
     const HashSlotRec &slot = index.slots[place];
-    if (slot.tag == tag && slot.bucket == bucket && index.compare(key, slot.link->key) == 0) {
+    if (slot.tag == tag && (bucket == kAnyBucket || slot.bucket == bucket) &&
+        index.compare(key, slot.link->key) == 0) {
       return slot.link;
     }
   }
@@ -234,9 +263,20 @@ bool HashAdd(HashTable table, void *entry) {
   return false;
 }
 
+// Whether the keys are the names themselves, of which equal ones always share a bucket.  Nearly all
+// look-ups are of this sort; without a copy of the name and its bucket they take a third.
+static bool HashKeysAreNames(const HashTableRec &table) {
+  return table.key_func == CaseSensitiveKeyFunc && table.compare_func == CaseSensitiveCompareFunc &&
+         HashIndexIsCurrent(table);
+}
+
 void *HashFind(HashTable table, const char *key) {
   if (key == nullptr || table == nullptr || table->entries == nullptr) {
     return nullptr;
+  }
+  if (HashKeysAreNames(*table)) {
+    const HashBucketRec *link = HashIndexFind(table->index, kAnyBucket, key);
+    return link == nullptr ? nullptr : link->entry;
   }
   SimpleObjectRec dummy = {};
   dummy.key = key;
