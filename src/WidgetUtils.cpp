@@ -430,24 +430,25 @@ void DropUnusedProcedures() {
 // -- Names -------------------------------------------------------------------------------------
 
 // Takes out underscores at the start and the second of each pair.  The character behind one that
-// is taken out is kept unseen, so that of three underscores two stay.
-static std::string DropUnderscores(std::string_view name) {
-  std::string result;
-  result.reserve(name.size());
+// is taken out is kept unseen, so that of three underscores two stay.  In place: 30 calls for each
+// widget come here.
+static void DropUnderscores(std::string *name) {
+  char *const text = name->data();
+  std::size_t length = 0;
   bool after_underscore = true;
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    if (name[i] != '_') {
+  for (std::size_t i = 0; i < name->size(); ++i) {
+    if (text[i] != '_') {
       after_underscore = false;
     } else if (after_underscore) {
       ++i;
     } else {
       after_underscore = true;
     }
-    if (i < name.size()) {
-      result += name[i];
+    if (i < name->size()) {
+      text[length++] = text[i];
     }
   }
-  return result;
+  name->resize(length);
 }
 
 std::string LegalName(std::string_view name) {
@@ -458,7 +459,7 @@ std::string LegalName(std::string_view name) {
   for (char &c : result) {
     c = AsciiIsAlnum(c) ? AsciiToLower(c) : '_';
   }
-  result = DropUnderscores(result);
+  DropUnderscores(&result);
   if (!result.empty() && result.back() == '_') {
     result.pop_back();
   }
