@@ -329,8 +329,12 @@ static bool OpenSlot(const UnitGroup &group, OutputSlot *slot) {
     slot->stream = stdout;
     return true;
   }
-  return MakeTemporaryFile(tmpdir ? tmpdir->c_str() : nullptr, kTemporaryPrefix, &slot->name,
-                           &slot->stream) != 0;
+  if (MakeTemporaryFile(tmpdir ? tmpdir->c_str() : nullptr, kTemporaryPrefix, &slot->name,
+                        &slot->stream) == 0) {
+    return false;
+  }
+  OutputBuffer(slot);
+  return true;
 }
 
 static bool PlaceSlot(OutputSlot *slot, const std::string &path) {
