@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -310,9 +311,13 @@ static bool IsGroupRefused(const UnitGroup &group) {
 
 // -- Writing -----------------------------------------------------------------------------------
 
+// The system takes 30 MB in a sixteenth of the calls that the library's own buffers would make.
+using StreamBuffer = std::array<char, 65536>;
+
 // Whatever happens, no stream stays open and no temporary file behind.
 struct OutputSlots {
   std::array<OutputSlot, kSlots> slots;
+  std::array<std::unique_ptr<StreamBuffer>, kSlots> buffers;
   OutputSlots() = default;
   ~OutputSlots() {
     for (OutputSlot &slot : slots) {
@@ -323,7 +328,8 @@ struct OutputSlots {
   OutputSlots &operator=(const OutputSlots &) = delete;
 };
 
-static bool OpenSlot(const UnitGroup &group, OutputSlot *slot) {
+static bool OpenSlot(const UnitGroup &group, SlotNumber number, OutputSlots *open) {
+  OutputSlot *slot = &open->slots[number];
   if (group.to_standard) {
     slot->name = std::string(kStandardOutput);
     slot->stream = stdout;
@@ -333,7 +339,9 @@ static bool OpenSlot(const UnitGroup &group, OutputSlot *slot) {
                         &slot->stream) == 0) {
     return false;
   }
-  OutputBuffer(slot);
+  open->buffers[number].reset(new StreamBuffer); // not cleared
+  static_cast<void>(
+      std::setvbuf(slot->stream, open->buffers[number]->data(), _IOFBF, sizeof(StreamBuffer)));
   return true;
 }
 
@@ -349,7 +357,7 @@ static bool WriteGroup(const UnitGroup &group) {
   OutputSlots open;
   Streams streams{};
   for (const UnitFile &file : group.files) {
-    if (!OpenSlot(group, &open.slots[file.slot])) {
+    if (!OpenSlot(group, file.slot, &open)) {
       return false;
     }
     streams[file.slot] = open.slots[file.slot].stream;

@@ -139,13 +139,6 @@ int MakeTemporaryFile(const char *dir, const char *prefix, std::string *name_out
   return 0;
 }
 
-constexpr std::size_t kOutputBuffer = 65536;
-
-void OutputBuffer(OutputSlot *slot) {
-  slot->buffer = std::make_unique<char[]>(kOutputBuffer);
-  static_cast<void>(std::setvbuf(slot->stream, slot->buffer.get(), _IOFBF, kOutputBuffer));
-}
-
 // -- Closing -----------------------------------------------------------------------------------
 
 static void ReportWriting(const char *name) {

@@ -5,19 +5,13 @@
 // only when it is complete.
 
 #include <cstdio>
-#include <memory>
 #include <string>
 
 // One output being written.  `name` is the temporary file's name, "-" for standard output.
 struct OutputSlot {
   std::string name;
   std::FILE *stream = nullptr;
-  std::unique_ptr<char[]> buffer; // of the stream, when it has been given one
 };
-
-// Gives a slot's stream, before anything is written to it, a buffer of 64 KiB in place of one of 4:
-// the system takes 30 MB in a sixteenth of the calls.
-void OutputBuffer(OutputSlot *slot);
 
 // Asks for a fresh temporary file and opens it exclusively for writing.  Returns 1, or 0 after an
 // immediate message.
