@@ -5,8 +5,8 @@
 // every reference has been opened, which shell it lives in, how large things are, and how a UIL
 // name becomes an Ada identifier.  Nothing here writes output.
 //
-// The flattening functions return a new list that the caller destroys with ListDestroy; its items
-// belong to the model.
+// The flattening functions return a new list, or one of the model that is flat as it is; a FlatList
+// destroys the first and spares the second.  The items belong to the model.
 
 #include <cstdint>
 #include <memory>
@@ -15,18 +15,24 @@
 
 #include "uiltoada.h"
 
-// Holds a flattened list and destroys it at the end of its scope.
+// Holds a flattened list and destroys it at the end of its scope, unless it is the model's, which
+// has a note on it.
 struct ListDestroyer {
-  void operator()(List list) const { ListDestroy(list); }
+  void operator()(List list) const {
+    if (list->note == 0) {
+      ListDestroy(list);
+    }
+  }
 };
 using FlatList = std::unique_ptr<ListHeader, ListDestroyer>;
 
 // A list may name another one twice, and that one again, so that a short module opens into more
-// items than any memory holds.  Opening more than this for one widget ends the run with status 1.
-constexpr int kMaxFlatItems = 2000000;
+// items than any memory holds.  Opening into more than this for one widget ends the run with status
+// 1.
+constexpr std::uint32_t kMaxFlatItems = 2000000;
 
-// Null gives an empty list.  In the controls, references are resolved; one that cannot be stays in
-// the list as WIDGET_REF.
+// Null gives an empty list, which may be null.  In the controls, references are resolved; one that
+// cannot be stays in the list as WIDGET_REF.
 List WidgetFlatArgumentsList(const WidgetDef *widget);
 List WidgetFlatCallbacksList(const WidgetDef *widget);
 List WidgetFlatControlsList(const WidgetDef *widget);

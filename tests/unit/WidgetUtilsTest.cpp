@@ -99,21 +99,20 @@ TEST_F(WidgetUtils, ListsInListsMayBeDeep) {
 TEST_F(WidgetUtils, TooManyItemsEndTheRun) {
   WidgetDef *widget = Define("w", "XmForm");
   KindRec *argument = Argument("XmNx", Integer(1));
-  for (int i = 0; i < kMaxFlatItems; ++i) {
+  for (unsigned i = 0; i < kMaxFlatItems; ++i) {
     ModelAppend(widget->args, argument);
   }
-  EXPECT_EQ(ListLength(FlatList(WidgetFlatArgumentsList(widget)).get()),
-            static_cast<unsigned>(kMaxFlatItems));
+  EXPECT_EQ(ListLength(FlatList(WidgetFlatArgumentsList(widget)).get()), kMaxFlatItems);
   ModelAppend(widget->args, argument);
   EXPECT_EQ(Reported([&] { EXPECT_THROW(WidgetFlatArgumentsList(widget), ProgramExit); }),
             "kivuxl: Too many arguments in w.\n");
 }
 
-// Forty lists, each naming the one before twice: 2^40 items, or none, for 80 lines of source.
+// Forty lists, each naming the one before twice: 2^40 items for 80 lines of source.
 TEST_F(WidgetUtils, ListsThatDoubleEndTheRun) {
-  List arguments = ModelList();
-  List callbacks = ModelList();
-  List controls = ModelList();
+  List arguments = Items({Argument("XmNx", Integer(1))});
+  List callbacks = Items({Callback("a", {})});
+  List controls = Items({Inline("a", "XmLabel")});
   for (int level = 0; level < 40; ++level) {
     arguments =
         Items({Listed(ARGUMENTS_LIST_NAME, arguments), Listed(ARGUMENTS_LIST_NAME, arguments)});
@@ -131,6 +130,56 @@ TEST_F(WidgetUtils, ListsThatDoubleEndTheRun) {
             "kivuxl: Too many callbacks in w.\n");
   EXPECT_EQ(Reported([&] { EXPECT_THROW(WidgetFlatControlsList(widget), ProgramExit); }),
             "kivuxl: Too many controls below w.\n");
+}
+
+// The same with nothing in the innermost list: no item, and no step for each of the 2^40 ways to
+// it.
+TEST_F(WidgetUtils, EmptyListsThatDoubleCostNothing) {
+  List list = ModelList();
+  for (int level = 0; level < 40; ++level) {
+    list = Items({Listed(ARGUMENTS_LIST_NAME, list), Listed(ARGUMENTS_LIST_NAME, list)});
+  }
+  WidgetDef *widget = Define("w", "XmForm");
+  widget->args = list;
+  EXPECT_EQ(Names(FlatList(WidgetFlatArgumentsList(widget))), "");
+  WidgetDef *other = Define("v", "XmForm");
+  Arguments(other, {Listed(ARGUMENTS_LIST_NAME, list), Argument("XmNx", Integer(1))});
+  EXPECT_EQ(Names(FlatList(WidgetFlatArgumentsList(other))), "XmNx ");
+}
+
+// Lists in lists that open into as many items as are allowed, and one more.
+TEST_F(WidgetUtils, ItemsOfListsInListsAreCounted) {
+  List list = ModelList();
+  for (unsigned i = 0; i < kMaxFlatItems / 2; ++i) {
+    ModelAppend(list, Argument("XmNx", Integer(1)));
+  }
+  WidgetDef *widget = Define("w", "XmForm");
+  Arguments(widget, {Listed(ARGUMENTS_LIST_NAME, list), Listed(ARGUMENTS_LIST_NAME, list)});
+  EXPECT_EQ(ListLength(FlatList(WidgetFlatArgumentsList(widget)).get()), kMaxFlatItems);
+  Arguments(widget, {Argument("XmNy", Integer(1))});
+  EXPECT_EQ(Reported([&] { EXPECT_THROW(WidgetFlatArgumentsList(widget), ProgramExit); }),
+            "kivuxl: Too many arguments in w.\n");
+}
+
+TEST_F(WidgetUtils, ListThatHoldsItselfEndsTheRun) {
+  List list = Items({Argument("XmNx", Integer(1))});
+  ModelAppend(list, Listed(ARGUMENTS_LIST_NAME, list));
+  WidgetDef *widget = Define("w", "XmForm");
+  widget->args = list;
+  EXPECT_EQ(Reported([&] { EXPECT_THROW(WidgetFlatArgumentsList(widget), ProgramExit); }),
+            "kivuxl: Too many arguments in w.\n");
+}
+
+// What is taken as it is stays in the model.
+TEST_F(WidgetUtils, ListWithoutListsIsUsedAsItIs) {
+  List list = Items({Argument("XmNx", Integer(1)), Argument("XmNy", Integer(1))});
+  WidgetDef *widget = Define("w", "XmForm");
+  ModelAppend(widget->args, Listed(ARGUMENTS_LIST_NAME, list));
+  for (int i = 0; i < 2; ++i) {
+    const FlatList flat(WidgetFlatArgumentsList(widget));
+    EXPECT_EQ(flat.get(), list);
+  }
+  EXPECT_EQ(ListLength(list), 2U);
 }
 
 // -- References --------------------------------------------------------------------------------
