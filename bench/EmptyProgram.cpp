@@ -1,0 +1,3 @@
+// A program that does nothing: what the system takes to start one.
+
+int main() {}
