@@ -6,9 +6,11 @@
 #include <algorithm>
 #include <cstdarg>
 #include <cstring>
+#include <string_view>
 
 #include "AdaValues.h"
 #include "Alloc.h"
+#include "Ascii.h"
 #include "Emit.h"
 #include "Options.h"
 
@@ -34,6 +36,19 @@ constexpr PairedArgument paired_args[] = {
     {"XmNdirListItems", "XmNdirListItemCount"},
     {"XmNfileListItems", "XmNfileListItemCount"},
 };
+
+// Ends each list's name and no other's; every argument is asked for its pair many times.
+constexpr std::string_view kListEnd = "Items";
+
+constexpr bool EachListHasItsEnd() {
+  for (const PairedArgument &pair : paired_args) {
+    if (!AsciiEndsWithNoCase(pair.list, kListEnd)) {
+      return false;
+    }
+  }
+  return true;
+}
+static_assert(EachListHasItsEnd());
 
 } // namespace
 
@@ -64,6 +79,9 @@ void argument_setarg(const char *expression, const NamedSetting *argument, std::
 }
 
 const char *argument_paired_arg(const char *name) {
+  if (name == nullptr || !AsciiEndsWithNoCase(name, kListEnd)) {
+    return nullptr;
+  }
   for (const PairedArgument &pair : paired_args) {
     if (SafeStrcmp(pair.list, name, static_cast<int>(case_sensitive)) == 0) {
       return pair.count;

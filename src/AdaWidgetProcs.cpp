@@ -182,14 +182,14 @@ static void WidgetCreateProcDecl(const WidgetDef *widget, std::FILE *file, bool 
   Emit(file,
        "  function kivu_create_%s( parent : in xtr5.widget )\n"
        "    return xtr5.widgetlist_ptr%s\n",
-       LegalName(widget->name).c_str(), is_body ? " is" : ";");
+       WidgetAdaName(widget), is_body ? " is" : ";");
   if (is_body) {
     Emit(file, "    self : xtr5.widget;\n");
   }
 }
 
 static void WidgetCreateProcEnd(const WidgetDef *widget, std::FILE *file) {
-  Emit(file, "  end kivu_create_%s;\n", LegalName(widget->name).c_str());
+  Emit(file, "  end kivu_create_%s;\n", WidgetAdaName(widget));
 }
 
 static void WidgetPostProcDecl(const WidgetDef *widget, std::FILE *file, bool is_body) {
@@ -197,14 +197,14 @@ static void WidgetPostProcDecl(const WidgetDef *widget, std::FILE *file, bool is
        "  procedure kivu_post_%s( parent : in xtr5.widget;\n"
        "      widgets : in xtr5.widgetlist_ptr;\n"
        "      index : in xtr5.int )%s\n",
-       LegalName(widget->name).c_str(), is_body ? " is" : ";");
+       WidgetAdaName(widget), is_body ? " is" : ";");
 }
 
 static void WidgetPostProcEnd(const WidgetDef *widget, std::FILE *file) {
   Emit(file,
        "    null;\n"
        "  end kivu_post_%s;\n",
-       LegalName(widget->name).c_str());
+       WidgetAdaName(widget));
 }
 
 static void WidgetCreateCtlsDecl(std::FILE *file, int children) {
@@ -254,8 +254,7 @@ static void WidgetTrivialChildList(std::FILE *file) {
 static void WidgetReturnChildList(const WidgetDef *widget, std::FILE *file) {
   if (widgets_record_suffix.has_value() && current_top_level != nullptr &&
       current_top_level->name != nullptr) {
-    Emit(file, "      %s.%s := self;\n", LegalName(current_top_level->name).c_str(),
-         LegalName(widget->name).c_str());
+    Emit(file, "      %s.%s := self;\n", WidgetAdaName(current_top_level), WidgetAdaName(widget));
   }
   Emit(file, "      return new xtr5.widgetlist'( children );\n"
              "    end;\n");
@@ -268,16 +267,16 @@ static void WidgetCallXtSetvalues(std::FILE *file, const char *expression, int s
 // A child of a widget that needs its children first is made by the widget's own parent.
 static void WidgetChildCreate(const WidgetDef *child, std::FILE *file, int ordinal, bool managed,
                               bool children_first) {
-  Emit(file, "    child_lists( %d ) := kivu_create_%s( %s );\n", ordinal,
-       LegalName(child->name).c_str(), children_first ? "parent" : "self");
+  Emit(file, "    child_lists( %d ) := kivu_create_%s( %s );\n", ordinal, WidgetAdaName(child),
+       children_first ? "parent" : "self");
   if (managed) {
     Emit(file, "    xtr5.managechild( child_lists( %d )( 1 ) );\n", ordinal);
   }
 }
 
 static void WidgetChildPostProc(const WidgetDef *child, std::FILE *file, int offset) {
-  Emit(file, "    kivu_post_%s( widgets( index ), widgets, index + %d );\n",
-       LegalName(child->name).c_str(), offset);
+  Emit(file, "    kivu_post_%s( widgets( index ), widgets, index + %d );\n", WidgetAdaName(child),
+       offset);
 }
 
 static void WidgetSetSubmenuArg(std::FILE *file, int slot, int ordinal) {

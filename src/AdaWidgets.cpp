@@ -88,7 +88,7 @@ static void WidgetEmitRecordField(const WidgetDef *widget, std::FILE *file) {
     return;
   }
   record->rec = current_top_level->name;
-  Emit(file, "    %s : XtR5.Widget := XtR5.XtNULL;\n", LegalName(widget->name).c_str());
+  Emit(file, "    %s : XtR5.Widget := XtR5.XtNULL;\n", WidgetAdaName(widget));
   const FlatList children(WidgetFlatControlsList(widget));
   for (const ListItem *node = ListFirstNode(children.get()); node != nullptr; node = node->next) {
     const WidgetDef *child = ControlWidget(node->data);
@@ -99,9 +99,9 @@ static void WidgetEmitRecordField(const WidgetDef *widget, std::FILE *file) {
 }
 
 static void WriteTopLevelRecord(const WidgetDef *widget, std::FILE *file) {
-  const std::string top = LegalName(widget->name);
+  const char *top = WidgetAdaName(widget);
   const char *suffix = widgets_record_suffix->c_str();
-  Emit(file, "  type %s_%s is record\n", top.c_str(), suffix);
+  Emit(file, "  type %s_%s is record\n", top, suffix);
   WidgetClearEmitRecord(widget);
   WidgetEmitRecordField(widget, file);
   Emit(file,
@@ -109,7 +109,7 @@ static void WriteTopLevelRecord(const WidgetDef *widget, std::FILE *file) {
        "  %s : %s_%s;\n"
        "  function Create_%s( parent : in XtR5.Widget )\n"
        "    return %s_%s;\n",
-       top.c_str(), top.c_str(), suffix, top.c_str(), top.c_str(), suffix);
+       top, top, suffix, top, top, suffix);
 }
 
 // The rows of a table of names, one for each shell.
@@ -308,14 +308,14 @@ static void WidgetWriteFetchCase(const WidgetDef *widget, std::FILE *file, unsig
   if (widget->kind == AUTO_CREATED_DEF || widget->anon) {
     return;
   }
-  const std::string ada_name = LegalName(widget->name);
+  const char *ada_name = WidgetAdaName(widget);
   const std::string uil_name = case_sensitive ? widget->name : UpperCase(widget->name);
   Emit(file,
        "    %s %s = \"%s\" then\n"
        "      widgets := kivu_create_%s( parent );\n"
        "      kivu_post_%s( parent, widgets, widgets'first );\n",
        *counter == 0 ? "if" : "elsif", case_sensitive ? "name" : "upc_name", uil_name.c_str(),
-       ada_name.c_str(), ada_name.c_str());
+       ada_name, ada_name);
   ++*counter;
 }
 
@@ -402,7 +402,7 @@ static constexpr char kEmptyShellFunctions[] =
 
 // The function that creates a whole tree and returns its record.
 static void WidgetWriteCreateTopLevel(const WidgetDef *widget, std::FILE *file) {
-  const std::string top = LegalName(widget->name);
+  const char *top = WidgetAdaName(widget);
   Emit(file,
        "  function Create_%s( parent : in XtR5.Widget )\n"
        "    return %s_%s is\n"
@@ -411,8 +411,7 @@ static void WidgetWriteCreateTopLevel(const WidgetDef *widget, std::FILE *file) 
        "    FetchWidget( parent, \"%s\", widgets );\n"
        "    return %s;\n"
        "  end Create_%s;\n",
-       top.c_str(), top.c_str(), widgets_record_suffix->c_str(), widget->name, top.c_str(),
-       top.c_str());
+       top, top, widgets_record_suffix->c_str(), widget->name, top, top);
 }
 
 // The subprograms of all objects.  Both passes number the callbacks, each from 1.

@@ -444,10 +444,6 @@ void *ListGetFirst(List list) {
   return list == nullptr || list->first == nullptr ? nullptr : list->first->data;
 }
 
-void *ListGetLast(List list) {
-  return list == nullptr || list->last == nullptr ? nullptr : list->last->data;
-}
-
 void ListAppend(List l1, List l2) {
   if (l1 == nullptr || l2 == nullptr || l1 == l2 || l2->first == nullptr) {
     return;

@@ -74,7 +74,9 @@ template <typename T> T *ListNext(List list) { return static_cast<T *>(ListGetIt
 
 // The first and the last item, or null.
 void *ListGetFirst(List list);
-void *ListGetLast(List list);
+inline void *ListGetLast(List list) {
+  return list == nullptr || list->last == nullptr ? nullptr : list->last->data;
+}
 
 // The first node or null, for
 // `for (const ListItem *node = ListFirstNode(list); node != nullptr; node = node->next)`.

@@ -16,7 +16,7 @@
 
 bool RegisterAdaName(SimpleObjectRec *entry, const char *conflict) {
   auto *claim = ModelNew<BareWord>(entry->kind);
-  claim->name = ModelText(LegalName(entry->name));
+  claim->name = LegalText(entry->name);
   claim->value = entry;
   if (NamesAdd(claim)) {
     return true;

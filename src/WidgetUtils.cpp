@@ -556,4 +556,17 @@ std::string LegalName(std::string_view name) {
   return result;
 }
 
+const char *LegalText(const char *name) {
+  const std::string legal = LegalName(name);
+  return legal == name ? name : ModelText(legal);
+}
+
+const char *WidgetAdaName(const WidgetDef *widget) {
+  auto *named = const_cast<WidgetDef *>(WidgetOrigin(widget)); // remembers like its hierarchy
+  if (named->ada_name == nullptr) {
+    named->ada_name = LegalText(named->name);
+  }
+  return named->ada_name;
+}
+
 void WidgetUtilsReset() { reported_names.clear(); }

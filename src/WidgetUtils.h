@@ -77,6 +77,12 @@ void DropUnusedProcedures();
 // The Ada identifier made from a UIL name; may be empty.
 std::string LegalName(std::string_view name);
 
+// The same as a text of the model, which is the name itself where that is legal.
+const char *LegalText(const char *name);
+
+// The Ada identifier of a widget.  Remembered per definition: it is written 12 times at least.
+const char *WidgetAdaName(const WidgetDef *widget);
+
 void WidgetUtilsReset();
 
 #endif

@@ -347,6 +347,7 @@ struct WidgetDef : SimpleObjectRec {
   // The rest is private to WidgetUtils.
   const WidgetDef *origin; // of a resolved reference, the definition that it copies
   std::int64_t hierarchy;  // remembered size of the subtree, 0 while not counted
+  const char *ada_name;    // remembered, null while not asked for
 };
 
 struct WidgetRef : SimpleObjectRec { // WIDGET_REF
