@@ -14,9 +14,9 @@
 
 [[noreturn]] static void RunCommand(char **command) {
   const int nowhere = open("/dev/null", O_RDWR);
-  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    dup2(nowhere, stream);
-  }
+  dup2(nowhere, STDIN_FILENO);
+  dup2(nowhere, STDOUT_FILENO);
+  dup2(nowhere, STDERR_FILENO);
   execvp(command[0], command);
   _exit(127);
 }
