@@ -44,6 +44,12 @@ TEST(Emit, OtherConversionsAreTheLibrarys) {
             "val(   7 ) 1 010 x 000000ff2.\n1.500000E+00 and -2.500000000000000E-01");
 }
 
+TEST(Emit, NoTextIsWrittenAsTheLibraryDoes) {
+  MemoryStream memory;
+  Emit(memory.stream, "<%s>", std::getenv("KIVUXL_HAS_NO_SUCH_VARIABLE"));
+  EXPECT_EQ(memory.Text(), "<(null)>");
+}
+
 TEST(Emit, TextsOfEveryLengthStayWholeAndInOrder) {
   for (const std::size_t length : {2046U, 2047U, 2048U, 2049U, 4096U, 100000U}) {
     const std::string text(length, 'x');
