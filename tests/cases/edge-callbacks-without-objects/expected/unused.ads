@@ -1,0 +1,4 @@
+with unused_uil;
+package unused is
+  package Widgets renames unused_uil;
+end unused;

@@ -1,0 +1,52 @@
+with XlibR5;
+with XrmR5;
+with Xt;
+with XtR5;
+with Xm1_2_2;
+with %d;
+with percents;
+procedure percents_main is
+  app_class : constant string := "Percents_main";
+  argv        : xlibr5.stringlist_ptr := xlibr5.getarguments;
+  app_context : xtr5.appcontext;
+  options     : xrmr5.optiondesclist( 1 .. 0 );
+  fallback    : xlibr5.stringlist( 1 .. 0 );
+  args        : xtr5.arglist( 1 .. 0 );
+  app_shell   : xtr5.widget;
+  langproc    : xtr5.languageproc;
+  widgets     : xtr5.widgetlist_ptr;
+  other_shell : xtr5.widget;
+begin
+  langproc := XtR5.SetLanguageProc(
+      XtR5.AppContext( XtR5.XtNULL ),
+      XtR5.XtNULL,
+      XtR5.XtNULL );
+  XtR5.AppInitialize( app_context,
+                      app_class,
+                      options,
+                      argv,
+                      fallback,
+                      args,
+                      app_shell );
+  %d.Widgets.AppShell := app_shell;
+  percents.Widgets.AppShell := app_shell;
+  percents.Widgets.Shells( 1 ) := app_shell;
+  percents.Widgets.FetchWidget( app_shell,
+                          "top",
+                          widgets );
+  percents.Widgets.Child_Lists( 1 ) := widgets;
+  XtR5.ManageChild( widgets( widgets'first ) );
+  XtR5.RealizeWidget( app_shell );
+  other_shell := XtR5.CreatePopupShell( "%d",
+                                        xtr5.toplevelshellwidgetclass,
+                                        app_shell,
+                                        args );
+  %d.Widgets.FetchWidget( other_shell,
+                          "%s%n",
+                          widgets );
+  %d.Widgets.Shells( 1 ) := other_shell;
+  %d.Widgets.Child_Lists( 1 ) := widgets;
+  XtR5.ManageChild( widgets( widgets'first ) );
+  XtR5.Popup( other_shell, Xt.GrabNone );
+  XtR5.AppMainLoop( app_context );
+end percents_main;

@@ -1,0 +1,4 @@
+with tagged;
+package tagged_mrm is
+  package Widgets renames tagged;
+end tagged_mrm;

@@ -1,0 +1,24 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package overlap_uil is
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr );
+  AppShell    : XtR5.Widget;
+  Shells      : XtR5.WidgetList( 1 .. 3 );
+  Child_Lists : array( 1 .. 3 ) of XtR5.WidgetList_Ptr;
+  Child_Names : constant XlibR5.StringList := (
+    1 => new String'( "left" ), 
+    2 => new String'( "right" ), 
+    3 => new String'( "third" ) );
+  Shell_Names : constant XlibR5.StringList := (
+    1 => new String'( "left_appl" ), 
+    2 => new String'( "right_popup" ), 
+    3 => new String'( "third_menu" ) );
+  function Shell      return XtR5.Widget;
+  function Child_List return XtR5.WidgetList_Ptr;
+  function Child_Name return String;
+  function Shell_Name return String;
+end overlap_uil;

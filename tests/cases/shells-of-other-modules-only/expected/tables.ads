@@ -1,0 +1,4 @@
+with tables_uil;
+package tables is
+  package Widgets renames tables_uil;
+end tables;
