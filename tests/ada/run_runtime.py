@@ -49,7 +49,7 @@ import time
 HERE = pathlib.Path(__file__).resolve().parent
 KIT = HERE.parents[1] / "ada"
 SUPPORT = HERE / "runtime_support"
-LIMIT = 60  # seconds for one answer, line or end
+LIMIT = 20  # seconds for one answer, line or end
 EDGE = 3  # pixels of a widget's outline
 
 
@@ -60,9 +60,9 @@ class Failure(Exception):
 # -- Building -------------------------------------------------------------------------------------
 
 
-def run(command, folder):
-    done = subprocess.run(command, cwd=folder, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                          text=True, check=False, timeout=5 * LIMIT)
+def run(command, folder, environment=None):
+    done = subprocess.run(command, cwd=folder, env=environment, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True, check=False, timeout=10 * LIMIT)
     if done.returncode != 0:
         raise Failure(f"{' '.join(map(str, command))}: status {done.returncode}\n{done.stdout}")
     return done.stdout
@@ -138,19 +138,20 @@ def build_program(program, test, cache):
         translate(program, test, folder)
         units = units_of(folder)
         result = cache / "programs" / f"{test.name}-{hash_of(units, kit.name)}"
-        if result.exists():
-            return result
         mains = [path.stem for path in units if path.suffix == ".adb"
                  and b"xtr5.appmainloop" in path.read_bytes().lower()]
         if len(mains) != 1:
             raise Failure(f"{len(mains)} main procedures")
-        result.parent.mkdir(exist_ok=True)
-        for old in result.parent.glob(test.name + "-" + "?" * 20):
-            old.unlink()
-        # gnatmake does not look behind its time stamps, which say nothing about copies.
-        run(["gnatmake", "-q", "-O0", f"-aI{kit}", f"-aO{kit}", mains[0], "-o", "program"], folder)
-        shutil.move(folder / "program", result)
-        return result
+        # The toolkit names the program's shell after the file.
+        if not (result / mains[0]).exists():
+            shutil.rmtree(result, ignore_errors=True)
+            run(["gnatmake", "-q", "-O0", f"-aI{kit}", f"-aO{kit}", mains[0]], folder)
+            for old in result.parent.glob(test.name + "-" + "?" * 20):
+                shutil.rmtree(old)
+            result.mkdir(parents=True)
+            shutil.copy(folder / mains[0], result / "unfinished")
+            (result / "unfinished").rename(result / mains[0])
+        return result / mains[0]
 
 
 # -- The X server ---------------------------------------------------------------------------------
@@ -170,11 +171,13 @@ class Server:
             raise Failure("Xvfb does not start")
         self.environment = {"PATH": os.environ["PATH"], "DISPLAY": f":{number}", "LC_ALL": "C",
                             "HOME": folder}
+        # No user is as quick as this one: two clicks are two, and a press and its release are two.
+        with open(os.path.join(folder, ".Xdefaults"), "w", encoding="ascii") as resources:
+            resources.write("*multiClickTime: 1\n")
 
     def user(self, *words):
         """Moves the pointer, presses buttons, strikes keys."""
-        subprocess.run(["xdotool", *map(str, words)], env=self.environment, check=True,
-                       timeout=LIMIT)
+        return run(["xdotool", *map(str, words)], HERE, self.environment)
 
     def pixels(self, place):
         """The rows of an area, each a list of #rrggbb."""
@@ -306,8 +309,12 @@ class Script:
         self.button("mouseup", words)
 
     def do_key(self, words, _):
-        self.program.ask("rest")
-        self.server.user("key", *words)
+        for chord in words:
+            keys = chord.split("+")
+            for action, order in (("keydown", keys), ("keyup", keys[::-1])):
+                for key in order:
+                    self.program.ask("rest")
+                    self.server.user(action, key)
 
     def do_type(self, words, _):
         self.program.ask("rest")
@@ -315,7 +322,8 @@ class Script:
 
     def do_focus(self, *_):
         self.program.ask("rest")
-        self.server.user("getmouselocation", "windowfocus", "--sync")
+        found = re.search("WINDOW=(.*)", self.server.user("getmouselocation", "--shell"))
+        self.server.user("windowfocus", "--sync", found.group(1))
 
     def do_ink(self, words, _):
         sign, colour = words
@@ -380,6 +388,8 @@ def play(path, program, server):
 
 
 def check(program, test, cache):
+    if not (test / "script").is_file():
+        raise Failure("has no file `script`")
     path = build_program(program, test, cache)
     with tempfile.TemporaryDirectory(prefix="kivuxl-screen-") as folder:
         server = Server(folder)
@@ -387,6 +397,10 @@ def check(program, test, cache):
             running = Program(path, server.environment)
             try:
                 play(test / "script", running, server)
+            except Failure as failure:
+                picture = cache / f"{test.name}.xwd"
+                shutil.copy(server.screen, picture)
+                raise Failure(f"{failure}\nthe screen: {picture}") from failure
             finally:
                 running.end()
         finally:

@@ -1,0 +1,27 @@
+with Probe; use Probe;
+with Xm;
+
+package body Births_Callbacks is
+
+   procedure Ready_Cb
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+   begin
+      Listen (W);
+   end Ready_Cb;
+
+   procedure Born_Cb (W : XtR5.Widget; Client_Data : String; Call_Data : XtR5.Pointer) is
+      Reason : Xm.AnyCallbackStruct
+        with Import, Address => Call_Data;
+   begin
+      Say (XtR5.Name (W) & ", " & Plain (Client_Data) & ", under "
+           & XtR5.Name (XtR5.Parent (W))
+           & (if Reason.Reason = Xm1_2_2.CR_CREATE then "" else ": another reason"));
+   end Born_Cb;
+
+   procedure Quit_Cb
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+   begin
+      Quit (W);
+   end Quit_Cb;
+
+end Births_Callbacks;
