@@ -57,6 +57,10 @@ class Failure(Exception):
     """What is wrong, in one text."""
 
 
+class Ended(Failure):
+    """The program is no longer there to answer."""
+
+
 # -- Building -------------------------------------------------------------------------------------
 
 
@@ -171,7 +175,7 @@ class Server:
             raise Failure("Xvfb does not start")
         self.environment = {"PATH": os.environ["PATH"], "DISPLAY": f":{number}", "LC_ALL": "C",
                             "HOME": folder}
-        # No user is as quick as this one: two clicks are two, and a press and its release are two.
+        # Users are slower than this one, who never means a double click.
         with open(os.path.join(folder, ".Xdefaults"), "w", encoding="ascii") as resources:
             resources.write("*multiClickTime: 1\n")
 
@@ -245,11 +249,16 @@ class Program:
             self.process.stdin.write(question.encode() + b"\n")
             self.process.stdin.flush()
         except BrokenPipeError as error:
-            raise Failure(f"ended before it was asked: {question}") from error
+            raise Ended(f"ended before it was asked: {question}") from error
         while not self.answers:
             if not self._read(f"answer to: {question}"):
-                raise Failure(f"ended instead of answering: {question}; printed: {self.printed}")
+                raise Ended(f"ended instead of answering: {question}; printed: {self.printed}")
         return self.answers.pop(0)
+
+    def settle(self):
+        """Waits until the program has nothing left to do, or has ended: the script says which."""
+        with contextlib.suppress(Ended):
+            self.ask("rest")
 
     def place(self, widget):
         """Left, top, width and height of a widget on the screen, once it is drawn."""
@@ -259,7 +268,8 @@ class Program:
     def end(self):
         self.process.kill()
         self.process.wait()
-        self.process.stdin.close()
+        with contextlib.suppress(BrokenPipeError):
+            self.process.stdin.close()
         self.process.stdout.close()
 
 
@@ -294,34 +304,37 @@ class Script:
         self.server = server
         self.inks = {}
 
-    def button(self, action, words):
+    def button(self, words, *actions):
         widget, number = (words + ["1"])[:2]
         x, y = middle(self.program.place(widget))
-        self.server.user("mousemove", x, y, action, number)
+        self.server.user("mousemove", x, y)
+        for action in actions:
+            self.program.settle()
+            self.server.user(action, number)
 
     def do_click(self, words, _):
-        self.button("click", words)
+        self.button(words, "mousedown", "mouseup")
 
     def do_press(self, words, _):
-        self.button("mousedown", words)
+        self.button(words, "mousedown")
 
     def do_release(self, words, _):
-        self.button("mouseup", words)
+        self.button(words, "mouseup")
 
     def do_key(self, words, _):
         for chord in words:
             keys = chord.split("+")
             for action, order in (("keydown", keys), ("keyup", keys[::-1])):
                 for key in order:
-                    self.program.ask("rest")
+                    self.program.settle()
                     self.server.user(action, key)
 
     def do_type(self, words, _):
-        self.program.ask("rest")
+        self.program.settle()
         self.server.user("type", " ".join(words))
 
     def do_focus(self, *_):
-        self.program.ask("rest")
+        self.program.settle()
         found = re.search("WINDOW=(.*)", self.server.user("getmouselocation", "--shell"))
         self.server.user("windowfocus", "--sync", found.group(1))
 
