@@ -1,0 +1,16 @@
+with Probe; use Probe;
+
+package body Editor_Callbacks is
+
+   procedure Ready_Cb
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+   begin
+      Listen (W);
+   end Ready_Cb;
+
+   procedure Save_Cb (W : XtR5.Widget; Client_Data : Integer; Call_Data : XtR5.Pointer) is
+   begin
+      Say ("saved" & Client_Data'Image);
+   end Save_Cb;
+
+end Editor_Callbacks;
