@@ -8,6 +8,7 @@ A test is a folder that holds
     *.uil        the modules
     *.adb, *.ads the bodies of the callbacks, and what else the program needs; a file takes the
                  place of a generated one of the same name
+    *.xbm        bitmaps, which the program finds by their names
     options      optional: a line for each run of kivuxl, the words after its name; without it
                  -gnat -stub -wrap -main MODULE.uil for the one module
     script       what the user does and what must be seen then, a line each:
@@ -407,7 +408,8 @@ def check(program, test, cache):
     with tempfile.TemporaryDirectory(prefix="kivuxl-screen-") as folder:
         server = Server(folder)
         try:
-            running = Program(path, server.environment)
+            bitmaps = {"XBMLANGPATH": f"{test}/%B"}
+            running = Program(path, server.environment | bitmaps)
             try:
                 play(test / "script", running, server)
             except Failure as failure:
