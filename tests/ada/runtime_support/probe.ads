@@ -1,8 +1,8 @@
 --  What the programs of the runtime tests share: lines for the driver to compare, the driver's
 --  questions answered, and a widget's resources read back.
 --
---  The driver writes a question to the program's standard input, a line each: "where NAME" for the
---  widget's place on the screen, or "rest".  Both are answered on standard output, behind "probe: ",
+--  The driver writes questions to the program's standard input, a line each: "where NAME" for the
+--  widget's place on the screen, or "rest".  Both are answered on standard output, after "probe: ",
 --  when the program has done everything there was to do and, for "where", the widget can be seen.
 
 with XtR5;

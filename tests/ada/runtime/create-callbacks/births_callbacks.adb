@@ -19,8 +19,12 @@ package body Births_Callbacks is
    end Born_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer)
+   is
+      Hidden : constant XtR5.Widget := XtR5.NameToWidget (XtR5.Parent (W), "hidden");
    begin
+      Say ("managed are " & XtR5.Name (W) & ": " & XtR5.IsManaged (W)'Image & ", hidden: "
+           & XtR5.IsManaged (Hidden)'Image);
       Quit (W);
    end Quit_Cb;
 
