@@ -169,7 +169,7 @@ class Server:
         self.screen = os.path.join(folder, "Xvfb_screen0")
         self.process = subprocess.Popen(
             ["Xvfb", "-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp",
-             "-fbdir", folder], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+             "-noreset", "-fbdir", folder], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         # The server picks a free number and writes it when it takes connections.
         number = self.process.stdout.readline().strip()
         if not number:

@@ -135,7 +135,8 @@ package body Probe is
       Question := To_Unbounded_String (Buffer (1 .. Length - 1));
    end Input_Came;
 
-   procedure Listen (W : XtR5.Widget) is
+   procedure Listen (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+      pragma Unreferenced (Client_Data, Call_Data);
       type Input_Procedure is access procedure
         (Closure : System.Address; Source : System.Address; Identifier : System.Address)
         with Convention => C;
@@ -173,7 +174,8 @@ package body Probe is
       pragma Unreferenced (Input, Hook);
    end Listen;
 
-   procedure Quit (W : XtR5.Widget) is
+   procedure Quit (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
+      pragma Unreferenced (Client_Data, Call_Data);
    begin
       XtR5.AppSetExitFlag (XtR5.WidgetToApplicationContext (W));
    end Quit;
@@ -234,25 +236,23 @@ package body Probe is
    function Compound (W : XtR5.Widget; Resource : String) return String is
      (Text_Of (Handle (W, Resource)));
 
-   function Number (W : XtR5.Widget; Resource : String) return Integer is
-      Value : aliased C.int := -1;
-   begin
-      Get (W, Resource, Value'Address);
-      return Integer (Value);
-   end Number;
+   generic
+      type Item is (<>);
+   function Value_Of (W : XtR5.Widget; Resource : String) return Integer;
 
-   function Size (W : XtR5.Widget; Resource : String) return Integer is
-      Value : aliased XtR5.Dimension := 0;
+   function Value_Of (W : XtR5.Widget; Resource : String) return Integer is
+      Value : aliased Item := Item'First;
    begin
       Get (W, Resource, Value'Address);
-      return Integer (Value);
-   end Size;
+      return Item'Pos (Value);
+   end Value_Of;
 
-   function Enum (W : XtR5.Widget; Resource : String) return Integer is
-      Value : aliased XtR5.Enum := 0;
-   begin
-      Get (W, Resource, Value'Address);
-      return Integer (Value);
-   end Enum;
+   function Int_Value is new Value_Of (C.int);
+   function Dimension_Value is new Value_Of (XtR5.Dimension);
+   function Enum_Value is new Value_Of (XtR5.Enum);
+
+   function Number (W : XtR5.Widget; Resource : String) return Integer renames Int_Value;
+   function Size (W : XtR5.Widget; Resource : String) return Integer renames Dimension_Value;
+   function Enum (W : XtR5.Widget; Resource : String) return Integer renames Enum_Value;
 
 end Probe;

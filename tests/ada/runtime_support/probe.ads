@@ -12,12 +12,12 @@ package Probe is
    --  Prints a line at once.
    procedure Say (Line : String);
 
-   --  Answers the driver's questions from now on.  For a create callback; W is any widget of the
-   --  program, more than one call does no harm.
-   procedure Listen (W : XtR5.Widget);
+   --  A create callback: answers the driver's questions from now on.  W is any widget of the program,
+   --  and more than one call does no harm.
+   procedure Listen (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer);
 
-   --  Ends the main loop, and so the program.
-   procedure Quit (W : XtR5.Widget);
+   --  A callback that ends the main loop, and so the program.
+   procedure Quit (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer);
 
    --  The texts in the client data of callbacks end with a NUL.
    function Plain (Text : String) return String;

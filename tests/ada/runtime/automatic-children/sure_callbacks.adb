@@ -6,7 +6,7 @@ package body Sure_Callbacks is
    procedure Ready_Cb
      (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
    begin
-      Listen (W);
+      Listen (W, Client_Data, Call_Data);
       Sure_Own.Self := W;
    end Ready_Cb;
 
@@ -36,9 +36,6 @@ package body Sure_Callbacks is
    end Read_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Sure_Callbacks;

@@ -4,10 +4,7 @@ with Xm;
 package body Choices_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Toggle_Cb (W : XtR5.Widget; Client_Data : Integer; Call_Data : XtR5.Pointer) is
    begin
@@ -25,9 +22,6 @@ package body Choices_Callbacks is
    end Text_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Choices_Callbacks;

@@ -3,10 +3,7 @@ with Probe; use Probe;
 package body Tags_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Flag_Cb (W : XtR5.Widget; Client_Data : Boolean; Call_Data : XtR5.Pointer) is
    begin
@@ -41,7 +38,7 @@ package body Tags_Callbacks is
       use type XtR5.Pointer;
    begin
       Say (XtR5.Name (W) & " has no tag: " & Boolean'Image (Client_Data = XtR5.XtNULL));
-      Quit (W);
+      Quit (W, Client_Data, Call_Data);
    end Quit_Cb;
 
 end Tags_Callbacks;

@@ -4,10 +4,7 @@ with Xm;
 package body Births_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Born_Cb (W : XtR5.Widget; Client_Data : String; Call_Data : XtR5.Pointer) is
       Reason : Xm.AnyCallbackStruct
@@ -25,7 +22,7 @@ package body Births_Callbacks is
    begin
       Say ("managed are " & XtR5.Name (W) & ": " & XtR5.IsManaged (W)'Image & ", hidden: "
            & XtR5.IsManaged (Hidden)'Image);
-      Quit (W);
+      Quit (W, Client_Data, Call_Data);
    end Quit_Cb;
 
 end Births_Callbacks;

@@ -12,10 +12,7 @@ package body Ask_Callbacks is
      with Convention => C;
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    --  The dialogs are created with the program and stand in the list of its windows.
    procedure Open_Cb (W : XtR5.Widget; Client_Data : Integer; Call_Data : XtR5.Pointer) is
@@ -40,9 +37,6 @@ package body Ask_Callbacks is
    end Name_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Ask_Callbacks;

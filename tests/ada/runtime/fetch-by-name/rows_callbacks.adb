@@ -8,10 +8,7 @@ package body Rows_Callbacks is
    First : XtR5.Widget := XtR5.XtNULL;
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    --  All widgets come back, the one asked for first.  The old row's button goes, so that the
    --  new one is the only one of its name.
@@ -41,9 +38,6 @@ package body Rows_Callbacks is
    end Hello_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Rows_Callbacks;

@@ -4,10 +4,7 @@ with Xm;
 package body Menus_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Command_Cb (W : XtR5.Widget; Client_Data : String; Call_Data : XtR5.Pointer) is
    begin
@@ -23,7 +20,7 @@ package body Menus_Callbacks is
      (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
    begin
       Say ("bye");
-      Quit (W);
+      Quit (W, Client_Data, Call_Data);
    end Quit_Cb;
 
 end Menus_Callbacks;

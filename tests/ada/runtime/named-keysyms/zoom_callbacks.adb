@@ -3,10 +3,7 @@ with Probe; use Probe;
 package body Zoom_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Zoom_Cb (W : XtR5.Widget; Client_Data : Integer; Call_Data : XtR5.Pointer) is
    begin
@@ -14,9 +11,6 @@ package body Zoom_Callbacks is
    end Zoom_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Zoom_Callbacks;

@@ -13,10 +13,7 @@ package body Towns_Callbacks is
      with Convention => C;
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    procedure Chosen_Cb (W : XtR5.Widget; Client_Data : String; Call_Data : XtR5.Pointer) is
       Data : List_Data
@@ -44,9 +41,6 @@ package body Towns_Callbacks is
    end Count_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Towns_Callbacks;

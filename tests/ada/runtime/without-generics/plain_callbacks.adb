@@ -3,10 +3,7 @@ with Probe; use Probe;
 package body Plain_Callbacks is
 
    procedure Ready_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Listen (W);
-   end Ready_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Listen;
 
    function Make_Frame
      (Parent : XtR5.Widget; Name : String; Args : XtR5.ArgList; Nargs : XtR5.Int)
@@ -22,9 +19,6 @@ package body Plain_Callbacks is
    end Count_Cb;
 
    procedure Quit_Cb
-     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) is
-   begin
-      Quit (W);
-   end Quit_Cb;
+     (W : XtR5.Widget; Client_Data : XtR5.Pointer; Call_Data : XtR5.Pointer) renames Quit;
 
 end Plain_Callbacks;
