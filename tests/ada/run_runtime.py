@@ -50,7 +50,7 @@ import time
 HERE = pathlib.Path(__file__).resolve().parent
 KIT = HERE.parents[1] / "ada"
 SUPPORT = HERE / "runtime_support"
-LIMIT = 20  # seconds for one answer, line or end
+LIMIT = 60  # seconds for one answer, line or end
 EDGE = 3  # pixels of a widget's outline
 
 
@@ -67,7 +67,7 @@ class Ended(Failure):
 
 def run(command, folder, environment=None):
     done = subprocess.run(command, cwd=folder, env=environment, stdout=subprocess.PIPE,
-                          stderr=subprocess.STDOUT, text=True, check=False, timeout=10 * LIMIT)
+                          stderr=subprocess.STDOUT, text=True, check=False, timeout=5 * LIMIT)
     if done.returncode != 0:
         raise Failure(f"{' '.join(map(str, command))}: status {done.returncode}\n{done.stdout}")
     return done.stdout
@@ -167,9 +167,11 @@ class Server:
 
     def __init__(self, folder):
         self.screen = os.path.join(folder, "Xvfb_screen0")
+        # Keys do not repeat however long they are held; the server stays when its last client goes.
         self.process = subprocess.Popen(
-            ["Xvfb", "-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp",
-             "-noreset", "-fbdir", folder], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp", "-r",
+             "-noreset", "-fbdir", folder],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         # The server picks a free number and writes it when it takes connections.
         number = self.process.stdout.readline().strip()
         if not number:
