@@ -51,6 +51,7 @@ HERE = pathlib.Path(__file__).resolve().parent
 KIT = HERE.parents[1] / "ada"
 SUPPORT = HERE / "runtime_support"
 LIMIT = 60  # seconds for one answer, line or end
+HASH_LENGTH = 20
 EDGE = 3  # pixels of a widget's outline
 
 
@@ -85,14 +86,14 @@ def hash_of(paths, *texts):
     for path in paths:
         content = path.read_bytes()
         digest.update(f"{path.name}:{len(content)}:".encode() + content)
-    return digest.hexdigest()[:20]
+    return digest.hexdigest()[:HASH_LENGTH]
 
 
 @contextlib.contextmanager
-def locked(folder):
+def locked(path):
     """Only one of several drivers at a time goes on from here."""
-    folder.mkdir(parents=True, exist_ok=True)
-    with open(folder / "lock", "w", encoding="ascii") as lock:
+    path.parent.mkdir(parents=True, exist_ok=True)
+    with open(path, "w", encoding="ascii") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
         yield
 
@@ -102,7 +103,7 @@ def build_kit(cache):
     sources = units_of(KIT) + units_of(SUPPORT)
     compiler = run(["gnatmake", "--version"], HERE)
     kit = cache / ("kit-" + hash_of(sources, compiler))
-    with locked(cache):
+    with locked(cache / "lock"):
         if not kit.exists():
             for old in cache.glob("kit-*"):
                 shutil.rmtree(old)
@@ -135,28 +136,34 @@ def translate(program, test, folder):
         shutil.copy(path, folder)
 
 
+def compile_units(folder, kit, result):
+    """Makes a program of the folder's units, named after its main procedure, in folder `result`."""
+    mains = [path.stem for path in units_of(folder) if path.suffix == ".adb"
+             and b"xtr5.appmainloop" in path.read_bytes().lower()]
+    if len(mains) != 1:
+        raise Failure(f"{len(mains)} main procedures")
+    run(["gnatmake", "-q", "-O0", f"-aI{kit}", f"-aO{kit}", mains[0]], folder)
+    unfinished = result.with_suffix(".unfinished")
+    shutil.rmtree(unfinished, ignore_errors=True)
+    unfinished.mkdir()
+    shutil.copy(folder / mains[0], unfinished)
+    unfinished.rename(result)
+
+
 def build_program(program, test, cache):
-    """The compiled program of a test."""
+    """The compiled program of a test, from the cache if it is there."""
     kit = build_kit(cache)
+    programs = cache / "programs"
     with tempfile.TemporaryDirectory(prefix="kivuxl-ada-") as name:
         folder = pathlib.Path(name)
         translate(program, test, folder)
-        units = units_of(folder)
-        result = cache / "programs" / f"{test.name}-{hash_of(units, kit.name)}"
-        mains = [path.stem for path in units if path.suffix == ".adb"
-                 and b"xtr5.appmainloop" in path.read_bytes().lower()]
-        if len(mains) != 1:
-            raise Failure(f"{len(mains)} main procedures")
-        # The toolkit names the program's shell after the file.
-        if not (result / mains[0]).exists():
-            shutil.rmtree(result, ignore_errors=True)
-            run(["gnatmake", "-q", "-O0", f"-aI{kit}", f"-aO{kit}", mains[0]], folder)
-            for old in result.parent.glob(test.name + "-" + "?" * 20):
-                shutil.rmtree(old)
-            result.mkdir(parents=True)
-            shutil.copy(folder / mains[0], result / "unfinished")
-            (result / "unfinished").rename(result / mains[0])
-        return result / mains[0]
+        result = programs / f"{test.name}-{hash_of(units_of(folder), kit.name)}"
+        with locked(programs / f"{test.name}.lock"):
+            if not result.exists():
+                for old in programs.glob(test.name + "-" + "?" * HASH_LENGTH):
+                    shutil.rmtree(old)
+                compile_units(folder, kit, result)
+    return next(result.iterdir())
 
 
 # -- The X server ---------------------------------------------------------------------------------
