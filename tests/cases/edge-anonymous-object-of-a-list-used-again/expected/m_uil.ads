@@ -1,0 +1,30 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+package m_uil is
+  type f_rec is record
+    f : XtR5.Widget := XtR5.XtNULL;
+    x : XtR5.Widget := XtR5.XtNULL;
+    anon_xmpushbutton_1 : XtR5.Widget := XtR5.XtNULL;
+    n : XtR5.Widget := XtR5.XtNULL;
+    y : XtR5.Widget := XtR5.XtNULL;
+  end record;
+  f : f_rec;
+  function Create_f( parent : in XtR5.Widget )
+    return f_rec;
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr );
+  AppShell    : XtR5.Widget;
+  Shells      : XtR5.WidgetList( 1 .. 1 );
+  Child_Lists : array( 1 .. 1 ) of XtR5.WidgetList_Ptr;
+  Child_Names : constant XlibR5.StringList := (
+    1 => new String'( "f" ) );
+  Shell_Names : constant XlibR5.StringList := (
+    1 => new String'( "f_appl" ) );
+  function Shell      return XtR5.Widget;
+  function Child_List return XtR5.WidgetList_Ptr;
+  function Child_Name return String;
+  function Shell_Name return String;
+end m_uil;

@@ -1,0 +1,13 @@
+with XlibR5;
+with XtR5;
+with Xm1_2_2;
+with Xmdef;
+package m_client_data is
+    integer_1 : constant integer := 1;
+    integer_2 : constant integer := 1;
+  procedure m_cb_proc(
+    w           : in xtr5.widget;
+    client_data : in xtr5.argval;
+    call_data   : in xtr5.pointer );
+  pragma external(c, m_cb_proc);
+end m_client_data;

@@ -1,0 +1,4 @@
+with _UIL_uil;
+package _UIL is
+  package Widgets renames _UIL_uil;
+end _UIL;

@@ -1,0 +1,4 @@
+with uil_uil;
+package uil is
+  package Widgets renames uil_uil;
+end uil;

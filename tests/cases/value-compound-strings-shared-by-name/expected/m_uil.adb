@@ -1,0 +1,509 @@
+with Xm;
+with Xmdef;
+with unchecked_deallocation;
+package body m_uil is
+  function "="( left, right : in xtr5.widget ) return boolean
+    renames xtr5."=";
+  create_callback_struct : constant xm1_2_2.anycallbackstruct := (
+    reason => xm1_2_2.CR_CREATE,
+    event  => null );
+  procedure freewidgetlist is new
+    unchecked_deallocation( xtr5.widgetlist,
+                            xtr5.widgetlist_ptr );
+  current_top_level : xtr5.widget := xtr5.xtnull;
+  auto_child : xtr5.widget := xtr5.xtnull;
+  function kivu_create_l( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr;
+  procedure kivu_post_l( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int );
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr ) is
+    widgets : xtr5.widgetlist_ptr := null;
+  begin
+    current_top_level := Xtr5.Xtnull;
+    if name = "l" then
+      widgets := kivu_create_l( parent );
+      kivu_post_l( parent, widgets, widgets'first );
+    end if;
+    widgets_return := widgets;
+  end FetchWidget;
+  function Shell return XtR5.Widget is
+  begin
+    return Shells( Shells'First );
+  end Shell;
+  function Child_List return XtR5.WidgetList_Ptr is
+  begin
+    return Child_Lists( Child_Lists'First );
+  end Child_List;
+  function Child_Name return String is
+  begin
+    return Child_Names( Child_Names'First ).all;
+  end Child_Name;
+  function Shell_Name return String is
+  begin
+    return Shell_Names( Shell_Names'First ).all;
+  end Shell_Name;
+  function kivu_create_l( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr is
+    self : xtr5.widget;
+    child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
+    child_count : integer := 1;
+    args : xtr5.arglist( 1 .. 10 );
+  begin
+    declare
+    string_1_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_3 : constant string :=
+      "b" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    compound_string_segment_1 : xm1_2_2.xmstring;
+    compound_string_temp_1 : xm1_2_2.xmstring;
+    compound_string_table_2 : xm1_2_2.xmstringlist( 1 .. 4 ) := ( others => xtr5.xtnull );
+    string_4_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_4_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_4_3 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_4_4 : constant string :=
+      "b" &
+      character'val(   0 );
+    compound_string_4 : xm1_2_2.xmstring;
+    compound_string_segment_4 : xm1_2_2.xmstring;
+    compound_string_temp_4 : xm1_2_2.xmstring;
+    compound_string_table_5 : xm1_2_2.xmstringlist( 1 .. 4 ) := ( others => xtr5.xtnull );
+    compound_string_table_7 : xm1_2_2.xmstringlist( 1 .. 4 ) := ( others => xtr5.xtnull );
+    string_9_1 : constant string :=
+      "x y" &
+      character'val(   0 );
+    compound_string_9 : xm1_2_2.xmstring;
+    string_10 : constant string :=
+      "x y" &
+      character'val(   0 );
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    xtr5.setarg( args( 1 ), xmdef.nlabelString, compound_string_1 );
+    declare
+    string_1_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_3 : constant string :=
+      "b" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    compound_string_segment_1 : xm1_2_2.xmstring;
+    compound_string_temp_1 : xm1_2_2.xmstring;
+    string_2_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    compound_string_2 : xm1_2_2.xmstring;
+    string_3_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_3_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_3_3 : constant string :=
+      "b" &
+      character'val(   0 );
+    string_3_4 : constant string :=
+      "a" &
+      character'val(   0 );
+    compound_string_3 : xm1_2_2.xmstring;
+    compound_string_segment_3 : xm1_2_2.xmstring;
+    compound_string_temp_3 : xm1_2_2.xmstring;
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    compound_string_table_2( 1 ) := compound_string_1;
+    compound_string_2 :=
+      xm1_2_2.stringsegmentcreate( string_2_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_table_2( 2 ) := compound_string_2;
+    compound_string_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_4,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_table_2( 3 ) := compound_string_3;
+    end;
+    xtr5.setarg( args( 2 ), xmdef.nitems, compound_string_table_2( compound_string_table_2'first )'address );
+    xtr5.setarg( args( 3 ), xmdef.nitemCount, xtr5.argval( compound_string_table_2'length - 1 ) );
+    compound_string_4 :=
+      xm1_2_2.stringsegmentcreate( string_4_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_4 :=
+      xm1_2_2.stringsegmentcreate( string_4_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_4 :=
+      xm1_2_2.stringcopy( compound_string_4 );
+    xm1_2_2.stringfree( compound_string_4 );
+    compound_string_4 :=
+      xm1_2_2.stringconcat( compound_string_temp_4,
+                            compound_string_segment_4 );
+    xm1_2_2.stringfree( compound_string_temp_4 );
+    xm1_2_2.stringfree( compound_string_segment_4 );
+    compound_string_segment_4 :=
+      xm1_2_2.stringsegmentcreate( string_4_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_4 :=
+      xm1_2_2.stringcopy( compound_string_4 );
+    xm1_2_2.stringfree( compound_string_4 );
+    compound_string_4 :=
+      xm1_2_2.stringconcat( compound_string_temp_4,
+                            compound_string_segment_4 );
+    xm1_2_2.stringfree( compound_string_temp_4 );
+    xm1_2_2.stringfree( compound_string_segment_4 );
+    compound_string_segment_4 :=
+      xm1_2_2.stringsegmentcreate( string_4_4,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_4 :=
+      xm1_2_2.stringcopy( compound_string_4 );
+    xm1_2_2.stringfree( compound_string_4 );
+    compound_string_4 :=
+      xm1_2_2.stringconcat( compound_string_temp_4,
+                            compound_string_segment_4 );
+    xm1_2_2.stringfree( compound_string_temp_4 );
+    xm1_2_2.stringfree( compound_string_segment_4 );
+    xtr5.setarg( args( 4 ), xmdef.nlabelString, compound_string_4 );
+    declare
+    string_1_1 : constant string :=
+      "x y" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    string_2_1 : constant string :=
+      "x y" &
+      character'val(   0 );
+    string_2_2 : constant string :=
+      "q" &
+      character'val(   0 );
+    compound_string_2 : xm1_2_2.xmstring;
+    compound_string_segment_2 : xm1_2_2.xmstring;
+    compound_string_temp_2 : xm1_2_2.xmstring;
+    string_3_1 : constant string :=
+      "x yx y" &
+      character'val(   0 );
+    compound_string_3 : xm1_2_2.xmstring;
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_table_5( 1 ) := compound_string_1;
+    compound_string_2 :=
+      xm1_2_2.stringsegmentcreate( string_2_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_segment_2 :=
+      xm1_2_2.stringsegmentcreate( string_2_2,
+                                   "iso_greek",
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_2 :=
+      xm1_2_2.stringcopy( compound_string_2 );
+    xm1_2_2.stringfree( compound_string_2 );
+    compound_string_2 :=
+      xm1_2_2.stringconcat( compound_string_temp_2,
+                            compound_string_segment_2 );
+    xm1_2_2.stringfree( compound_string_temp_2 );
+    xm1_2_2.stringfree( compound_string_segment_2 );
+    compound_string_table_5( 2 ) := compound_string_2;
+    compound_string_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_table_5( 3 ) := compound_string_3;
+    end;
+    xtr5.setarg( args( 5 ), xmdef.nlistItems, compound_string_table_5( compound_string_table_5'first )'address );
+    xtr5.setarg( args( 6 ), xmdef.nlistItemCount, xtr5.argval( compound_string_table_5'length - 1 ) );
+    declare
+    string_1_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_1_3 : constant string :=
+      "b" &
+      character'val(   0 );
+    compound_string_1 : xm1_2_2.xmstring;
+    compound_string_segment_1 : xm1_2_2.xmstring;
+    compound_string_temp_1 : xm1_2_2.xmstring;
+    string_2_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    compound_string_2 : xm1_2_2.xmstring;
+    string_3_1 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_3_2 : constant string :=
+      "a" &
+      character'val(   0 );
+    string_3_3 : constant string :=
+      "b" &
+      character'val(   0 );
+    string_3_4 : constant string :=
+      "a" &
+      character'val(   0 );
+    compound_string_3 : xm1_2_2.xmstring;
+    compound_string_segment_3 : xm1_2_2.xmstring;
+    compound_string_temp_3 : xm1_2_2.xmstring;
+    begin
+    compound_string_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    compound_string_segment_1 :=
+      xm1_2_2.stringsegmentcreate( string_1_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_1 :=
+      xm1_2_2.stringcopy( compound_string_1 );
+    xm1_2_2.stringfree( compound_string_1 );
+    compound_string_1 :=
+      xm1_2_2.stringconcat( compound_string_temp_1,
+                            compound_string_segment_1 );
+    xm1_2_2.stringfree( compound_string_temp_1 );
+    xm1_2_2.stringfree( compound_string_segment_1 );
+    compound_string_table_7( 1 ) := compound_string_1;
+    compound_string_2 :=
+      xm1_2_2.stringsegmentcreate( string_2_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_table_7( 2 ) := compound_string_2;
+    compound_string_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_2,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_3,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_segment_3 :=
+      xm1_2_2.stringsegmentcreate( string_3_4,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   TRUE );
+    compound_string_temp_3 :=
+      xm1_2_2.stringcopy( compound_string_3 );
+    xm1_2_2.stringfree( compound_string_3 );
+    compound_string_3 :=
+      xm1_2_2.stringconcat( compound_string_temp_3,
+                            compound_string_segment_3 );
+    xm1_2_2.stringfree( compound_string_temp_3 );
+    xm1_2_2.stringfree( compound_string_segment_3 );
+    compound_string_table_7( 3 ) := compound_string_3;
+    end;
+    xtr5.setarg( args( 7 ), xmdef.nselectedItems, compound_string_table_7( compound_string_table_7'first )'address );
+    xtr5.setarg( args( 8 ), xmdef.nselectedItemCount, xtr5.argval( compound_string_table_7'length - 1 ) );
+    compound_string_9 :=
+      xm1_2_2.stringsegmentcreate( string_9_1,
+                                   xmdef.FONTLIST_DEFAULT_TAG,
+                                   xm1_2_2.STRING_DIRECTION_L_TO_R,
+                                   FALSE );
+    xtr5.setarg( args( 9 ), xmdef.nlabelString, compound_string_9 );
+    xtr5.setarg( args( 10 ), xmdef.nuserData, string_10( string_10'first )'address );
+    self := Xm1_2_2.CreateLabel(
+              parent,
+              "l",
+              args,
+              10 );
+    if current_top_level = xtr5.xtnull then      current_top_level := self;
+    end if;
+    xm1_2_2.stringfree( compound_string_1 );
+    for index_2 in compound_string_table_2'range loop
+      if compound_string_table_2( index_2 ) /= xtr5.xtnull then
+        xm1_2_2.stringfree( compound_string_table_2( index_2 ) );
+      end if;
+    end loop;
+    xm1_2_2.stringfree( compound_string_4 );
+    for index_5 in compound_string_table_5'range loop
+      if compound_string_table_5( index_5 ) /= xtr5.xtnull then
+        xm1_2_2.stringfree( compound_string_table_5( index_5 ) );
+      end if;
+    end loop;
+    for index_7 in compound_string_table_7'range loop
+      if compound_string_table_7( index_7 ) /= xtr5.xtnull then
+        xm1_2_2.stringfree( compound_string_table_7( index_7 ) );
+      end if;
+    end loop;
+    xm1_2_2.stringfree( compound_string_9 );
+    end;
+    declare
+      children : xtr5.widgetlist( 1 .. 1 ) := ( 1 => self );
+    begin
+      return new xtr5.widgetlist'( children );
+    end;
+  end kivu_create_l;
+  procedure kivu_post_l( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int ) is
+    args : xtr5.arglist( 1 .. 10 );
+  begin
+    null;
+  end kivu_post_l;
+end m_uil;

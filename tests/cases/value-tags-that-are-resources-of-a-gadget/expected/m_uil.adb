@@ -1,0 +1,444 @@
+with Xm;
+with Xmdef;
+with unchecked_deallocation;
+with m_client_data;
+use  m_client_data;
+package body m_uil is
+  function "="( left, right : in xtr5.widget ) return boolean
+    renames xtr5."=";
+  create_callback_struct : constant xm1_2_2.anycallbackstruct := (
+    reason => xm1_2_2.CR_CREATE,
+    event  => null );
+  procedure freewidgetlist is new
+    unchecked_deallocation( xtr5.widgetlist,
+                            xtr5.widgetlist_ptr );
+  current_top_level : xtr5.widget := xtr5.xtnull;
+  auto_child : xtr5.widget := xtr5.xtnull;
+  function kivu_create_b( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr;
+  procedure kivu_post_b( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int );
+  procedure FetchWidget(
+    parent         : in     XtR5.Widget;
+    name           : in     String;
+    widgets_return :    out XtR5.WidgetList_Ptr ) is
+    widgets : xtr5.widgetlist_ptr := null;
+  begin
+    current_top_level := Xtr5.Xtnull;
+    if name = "b" then
+      widgets := kivu_create_b( parent );
+      kivu_post_b( parent, widgets, widgets'first );
+    end if;
+    widgets_return := widgets;
+  end FetchWidget;
+  function Shell return XtR5.Widget is
+  begin
+    return Shells( Shells'First );
+  end Shell;
+  function Child_List return XtR5.WidgetList_Ptr is
+  begin
+    return Child_Lists( Child_Lists'First );
+  end Child_List;
+  function Child_Name return String is
+  begin
+    return Child_Names( Child_Names'First ).all;
+  end Child_Name;
+  function Shell_Name return String is
+  begin
+    return Shell_Names( Shell_Names'First ).all;
+  end Shell_Name;
+  function kivu_create_b( parent : in xtr5.widget )
+    return xtr5.widgetlist_ptr is
+    self : xtr5.widget;
+    child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
+    child_count : integer := 1;
+    args : xtr5.arglist( 1 .. 2 );
+  begin
+    self := Xm1_2_2.CreatePushButtonGadget(
+              parent,
+              "b",
+              args,
+              0 );
+    if current_top_level = xtr5.xtnull then      current_top_level := self;
+    end if;
+    declare
+    arg_1 : constant xmdef.argname :=
+        xmdef.argname( string'( "user" ) & ASCII.NUL );
+    color_1 : xlibr5.pixel;
+    string_1 : constant string :=
+      "red" &
+      character'val(   0 );
+    color_args_1 : xtr5.arglist( 1 .. 1 );
+    color_colormap_1 : xlibr5.colormap;
+    color_screen_rgb_1 : xlibr5.color;
+    color_exact_rgb_1 : xlibr5.color;
+    color_status_1 : boolean;
+    icon_2 : xlibr5.pixmap;
+    icon_strings_2 : xlibr5.stringlist( 1 .. 1 ) := (
+        1 => new string'( "*" ) );
+    icon_strlen_2 : constant integer := 1;
+    icon_pixels_2 : xlibr5.pixellist( 1 .. 2 );
+    icon_chars_2 : xlibr5.stringlist( 1 .. 2 ) := (
+        new string'( " " ),
+        new string'( "*" ) );
+    icon_chrlen_2 : constant integer := 1;
+    icon_depth_2 : xlibr5.int;
+    icon_visual_2 : xlibr5.visual_ptr;
+    icon_screen_2 : xlibr5.screen_ptr;
+    icon_display_2 : xlibr5.display;
+    icon_root_2 : xlibr5.window;
+    icon_gc_2 : xlibr5.gc;
+    icon_gcvalues_2 : xlibr5.gcvalues;
+    icon_image_2 : xlibr5.image_ptr;
+    icon_args_2 : xtr5.arglist( 1 .. 1 );
+    icon_dummy_2 : xlibr5.int;
+    icon_data_2 : xlibr5.unsignedcharlist_ptr;
+    begin
+    XtR5.SetArg( color_args_1( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_1'address );
+    XtR5.GetValues( parent, color_args_1, 1 );
+    if string_1'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_1,
+                              string_1,
+                              color_screen_rgb_1,
+                              color_exact_rgb_1,
+                              color_status_1 );
+    else
+      color_status_1 := false;
+    end if;
+    if color_status_1 then
+      color_1 := color_screen_rgb_1.pixel;
+    else
+      color_1 := xlibr5.pixel( 0 );
+    end if;
+    xtr5.setarg( args( 1 ), arg_1, color_1 );
+    declare
+    color_1 : xlibr5.pixel;
+    string_1 : constant string :=
+      "" & character'val( 0 );
+    color_args_1 : xtr5.arglist( 1 .. 1 );
+    color_colormap_1 : xlibr5.colormap;
+    color_screen_rgb_1 : xlibr5.color;
+    color_exact_rgb_1 : xlibr5.color;
+    color_status_1 : boolean;
+    color_2 : xlibr5.pixel;
+    string_2 : constant string :=
+      "" & character'val( 0 );
+    color_args_2 : xtr5.arglist( 1 .. 1 );
+    color_colormap_2 : xlibr5.colormap;
+    color_screen_rgb_2 : xlibr5.color;
+    color_exact_rgb_2 : xlibr5.color;
+    color_status_2 : boolean;
+    begin
+    XtR5.SetArg( color_args_1( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_1'address );
+    XtR5.GetValues( parent, color_args_1, 1 );
+    if string_1'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_1,
+                              string_1,
+                              color_screen_rgb_1,
+                              color_exact_rgb_1,
+                              color_status_1 );
+    else
+      color_status_1 := false;
+    end if;
+    if color_status_1 then
+      color_1 := color_screen_rgb_1.pixel;
+    else
+      XtR5.SetArg( color_args_1( 1 ),
+                   Xmdef.Nbackground,
+                   color_1'address );
+      XtR5.GetValues( parent, color_args_1, 1 );
+    end if;
+    icon_pixels_2( 1 ) := color_1;
+    XtR5.SetArg( color_args_2( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_2'address );
+    XtR5.GetValues( parent, color_args_2, 1 );
+    if string_2'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_2,
+                              string_2,
+                              color_screen_rgb_2,
+                              color_exact_rgb_2,
+                              color_status_2 );
+    else
+      color_status_2 := false;
+    end if;
+    if color_status_2 then
+      color_2 := color_screen_rgb_2.pixel;
+    else
+      XtR5.SetArg( color_args_2( 1 ),
+                   Xmdef.Nforeground,
+                   color_2'address );
+      XtR5.GetValues( parent, color_args_2, 1 );
+    end if;
+    icon_pixels_2( 2 ) := color_2;
+    end;
+    XtR5.SetArg( icon_args_2( 1 ),
+                 Xmdef.Ndepth,
+                 icon_depth_2'address );
+    XtR5.GetValues( parent, icon_args_2, 1 );
+    icon_display_2 := XtR5.DisplayOfObject( self );
+    icon_screen_2  := XtR5.ScreenOfObject( self );
+    icon_root_2    :=
+      XlibR5.RootWindowOfScreen( icon_screen_2 );
+    icon_visual_2  :=
+      XlibR5.DefaultVisualOfScreen( icon_screen_2 );
+    icon_image_2 :=
+      XlibR5.CreateImage( icon_display_2,
+                          icon_visual_2,
+                          icon_depth_2,
+                          xlibr5.zpixmap,
+                          0,
+                          xtr5.xtnull,
+                          icon_strlen_2 / icon_chrlen_2,
+                          icon_strings_2'length,
+                          xlibr5.bitmappad( icon_display_2 ),
+                          0 );
+    icon_data_2 :=
+      new xlibr5.unsignedcharlist(
+        1 .. icon_image_2.height *
+             icon_image_2.bytes_per_line );
+    icon_image_2.data :=
+      icon_data_2( icon_data_2'first )'address;
+    for y in icon_strings_2'range loop
+      for x in 1 .. icon_strlen_2 / icon_chrlen_2 loop
+        for p in icon_chars_2'range loop
+          if icon_chars_2( p ).all =
+             icon_strings_2( y )
+               ( ( x - 1 ) * icon_chrlen_2 + 1 ..
+                 x * icon_chrlen_2 ) then
+            icon_dummy_2 :=
+              xlibr5.putpixel( icon_image_2, x - 1, y - 1,
+                               icon_pixels_2( p ) );
+            exit;
+          end if;
+        end loop;
+      end loop;
+    end loop;
+    icon_2 := xlibr5.createpixmap( icon_display_2,
+                               icon_root_2,
+                               icon_image_2.width,
+                               icon_image_2.height,
+                               icon_image_2.depth );
+    icon_gc_2 := xlibr5.creategc( icon_display_2,
+                                   icon_root_2,
+                                   0,
+                                   icon_gcvalues_2 );
+    xlibr5.putimage( icon_display_2,
+                     icon_2,
+                     icon_gc_2,
+                     icon_image_2,
+                     0, 0, 0, 0,
+                     icon_image_2.width,
+                     icon_image_2.height );
+    xlibr5.freegc( icon_display_2, icon_gc_2 );
+    xtr5.setarg( args( 2 ), xmdef.nuserData, icon_2 );
+    XtR5.SetValues( self, args, 2 );
+    icon_dummy_2 := xlibr5.destroyimage( icon_image_2 );
+    end;
+    XtR5.SetArg( color_args_1( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_1'address );
+    XtR5.GetValues( parent, color_args_1, 1 );
+    if string_1'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_1,
+                              string_1,
+                              color_screen_rgb_1,
+                              color_exact_rgb_1,
+                              color_status_1 );
+    else
+      color_status_1 := false;
+    end if;
+    if color_status_1 then
+      color_1 := color_screen_rgb_1.pixel;
+    else
+      XtR5.SetArg( color_args_1( 1 ),
+                   Xmdef.Nbackground,
+                   color_1'address );
+      XtR5.GetValues( parent, color_args_1, 1 );
+    end if;
+    xtr5.addcallback( self, arg_1, m_cb_proc'address, 1 );
+    XtR5.SetArg( color_args_2( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_2'address );
+    XtR5.GetValues( parent, color_args_2, 1 );
+    if string_2'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_2,
+                              string_2,
+                              color_screen_rgb_2,
+                              color_exact_rgb_2,
+                              color_status_2 );
+    else
+      color_status_2 := false;
+    end if;
+    if color_status_2 then
+      color_2 := color_screen_rgb_2.pixel;
+    else
+      color_2 := xlibr5.pixel( 0 );
+    end if;
+    xtr5.addcallback( self, arg_2, m_cb_proc'address, 2 );
+    XtR5.SetArg( xbitmapfile_args_3( 1 ),
+                 Xmdef.Nbackground,
+                 xbitmapfile_background_3'address );
+    XtR5.SetArg( xbitmapfile_args_3( 2 ),
+                 Xmdef.Nforeground,
+                 xbitmapfile_foreground_3'address );
+    XtR5.SetArg( xbitmapfile_args_3( 3 ),
+                 Xmdef.Ndepth,
+                 xbitmapfile_depth_3'address );
+    XtR5.GetValues( parent, xbitmapfile_args_3, 3 );
+    xbitmapfile_3 :=
+      Xm1_2_2.GetPixmapByDepth( XtR5.ScreenOfObject( self ),
+                                xbitmapfile_file_3,
+                                xbitmapfile_foreground_3,
+                                xbitmapfile_background_3,
+                                xbitmapfile_depth_3 );
+    xtr5.addcallback( self, Xmdef.NarmCallback, m_cb_proc'address, 3 );
+    declare
+    color_1 : xlibr5.pixel;
+    string_1 : constant string :=
+      "" & character'val( 0 );
+    color_args_1 : xtr5.arglist( 1 .. 1 );
+    color_colormap_1 : xlibr5.colormap;
+    color_screen_rgb_1 : xlibr5.color;
+    color_exact_rgb_1 : xlibr5.color;
+    color_status_1 : boolean;
+    color_2 : xlibr5.pixel;
+    string_2 : constant string :=
+      "" & character'val( 0 );
+    color_args_2 : xtr5.arglist( 1 .. 1 );
+    color_colormap_2 : xlibr5.colormap;
+    color_screen_rgb_2 : xlibr5.color;
+    color_exact_rgb_2 : xlibr5.color;
+    color_status_2 : boolean;
+    begin
+    XtR5.SetArg( color_args_1( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_1'address );
+    XtR5.GetValues( parent, color_args_1, 1 );
+    if string_1'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_1,
+                              string_1,
+                              color_screen_rgb_1,
+                              color_exact_rgb_1,
+                              color_status_1 );
+    else
+      color_status_1 := false;
+    end if;
+    if color_status_1 then
+      color_1 := color_screen_rgb_1.pixel;
+    else
+      XtR5.SetArg( color_args_1( 1 ),
+                   Xmdef.Nbackground,
+                   color_1'address );
+      XtR5.GetValues( parent, color_args_1, 1 );
+    end if;
+    icon_pixels_4( 1 ) := color_1;
+    XtR5.SetArg( color_args_2( 1 ),
+                 Xmdef.Ncolormap,
+                 color_colormap_2'address );
+    XtR5.GetValues( parent, color_args_2, 1 );
+    if string_2'length > 1 then
+      XlibR5.AllocNamedColor( XtR5.DisplayOfObject( self ),
+                              color_colormap_2,
+                              string_2,
+                              color_screen_rgb_2,
+                              color_exact_rgb_2,
+                              color_status_2 );
+    else
+      color_status_2 := false;
+    end if;
+    if color_status_2 then
+      color_2 := color_screen_rgb_2.pixel;
+    else
+      XtR5.SetArg( color_args_2( 1 ),
+                   Xmdef.Nforeground,
+                   color_2'address );
+      XtR5.GetValues( parent, color_args_2, 1 );
+    end if;
+    icon_pixels_4( 2 ) := color_2;
+    end;
+    XtR5.SetArg( icon_args_4( 1 ),
+                 Xmdef.Ndepth,
+                 icon_depth_4'address );
+    XtR5.GetValues( parent, icon_args_4, 1 );
+    icon_display_4 := XtR5.DisplayOfObject( self );
+    icon_screen_4  := XtR5.ScreenOfObject( self );
+    icon_root_4    :=
+      XlibR5.RootWindowOfScreen( icon_screen_4 );
+    icon_visual_4  :=
+      XlibR5.DefaultVisualOfScreen( icon_screen_4 );
+    icon_image_4 :=
+      XlibR5.CreateImage( icon_display_4,
+                          icon_visual_4,
+                          icon_depth_4,
+                          xlibr5.zpixmap,
+                          0,
+                          xtr5.xtnull,
+                          icon_strlen_4 / icon_chrlen_4,
+                          icon_strings_4'length,
+                          xlibr5.bitmappad( icon_display_4 ),
+                          0 );
+    icon_data_4 :=
+      new xlibr5.unsignedcharlist(
+        1 .. icon_image_4.height *
+             icon_image_4.bytes_per_line );
+    icon_image_4.data :=
+      icon_data_4( icon_data_4'first )'address;
+    for y in icon_strings_4'range loop
+      for x in 1 .. icon_strlen_4 / icon_chrlen_4 loop
+        for p in icon_chars_4'range loop
+          if icon_chars_4( p ).all =
+             icon_strings_4( y )
+               ( ( x - 1 ) * icon_chrlen_4 + 1 ..
+                 x * icon_chrlen_4 ) then
+            icon_dummy_4 :=
+              xlibr5.putpixel( icon_image_4, x - 1, y - 1,
+                               icon_pixels_4( p ) );
+            exit;
+          end if;
+        end loop;
+      end loop;
+    end loop;
+    icon_4 := xlibr5.createpixmap( icon_display_4,
+                               icon_root_4,
+                               icon_image_4.width,
+                               icon_image_4.height,
+                               icon_image_4.depth );
+    icon_gc_4 := xlibr5.creategc( icon_display_4,
+                                   icon_root_4,
+                                   0,
+                                   icon_gcvalues_4 );
+    xlibr5.putimage( icon_display_4,
+                     icon_4,
+                     icon_gc_4,
+                     icon_image_4,
+                     0, 0, 0, 0,
+                     icon_image_4.width,
+                     icon_image_4.height );
+    xlibr5.freegc( icon_display_4, icon_gc_4 );
+    xtr5.addcallback( self, Xmdef.NarmCallback, m_cb_proc'address, 4 );
+    declare
+      children : xtr5.widgetlist( 1 .. 1 ) := ( 1 => self );
+    begin
+      return new xtr5.widgetlist'( children );
+    end;
+  end kivu_create_b;
+  procedure kivu_post_b( parent : in xtr5.widget;
+      widgets : in xtr5.widgetlist_ptr;
+      index : in xtr5.int ) is
+    args : xtr5.arglist( 1 .. 2 );
+  begin
+    null;
+  end kivu_post_b;
+end m_uil;
