@@ -94,7 +94,7 @@ bool WidgetTableInit() {
 }
 
 WidgetEmit *WidgetEmitRecord(const WidgetDef *widget) {
-  auto *record = static_cast<WidgetEmit *>(HashFind(widget_table, widget->name));
+  auto *record = static_cast<WidgetEmit *>(ModelFind(widget_table, widget->name));
   if (record == nullptr) {
     record = ModelNew<WidgetEmit>(widget->kind);
     record->name = widget->name;

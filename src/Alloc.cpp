@@ -66,6 +66,7 @@ PageHeader ring = {&ring, &ring, 0};
 std::array<SizeClass, kLargestSmall / kUnit + 1> classes;
 std::size_t live_blocks = 0;
 long allocations_left = -1; // before each one fails; -1 = without end
+std::size_t failures = 0;
 
 } // namespace
 
@@ -167,9 +168,15 @@ static bool AllocMayProceed() {
   return true;
 }
 
+static void *BlockTry(std::size_t size) {
+  void *block = AllocMayProceed() ? BlockTake(size) : nullptr;
+  failures += block == nullptr ? 1 : 0;
+  return block;
+}
+
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
-void *_MAlloc(std::size_t size) { return AllocMayProceed() ? BlockTake(size) : nullptr; }
+void *_MAlloc(std::size_t size) { return BlockTry(size); }
 
 void _MFree(void *ptr) {
   if (ptr != nullptr) {
@@ -178,10 +185,7 @@ void _MFree(void *ptr) {
 }
 
 void *_MReAlloc(void *ptr, std::size_t size) {
-  if (!AllocMayProceed()) {
-    return nullptr;
-  }
-  void *block = BlockTake(size);
+  void *block = BlockTry(size);
   if (ptr == nullptr || block == nullptr) {
     return block;
   }
@@ -263,5 +267,7 @@ void AllocReset() {
 }
 
 std::size_t AllocLiveBlocks() { return live_blocks; }
+
+std::size_t AllocFailures() { return failures; }
 
 void AllocFailAfter(long n) { allocations_left = n; }

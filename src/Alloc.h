@@ -52,6 +52,10 @@ void AllocReset();
 // The number of live blocks.  For tests.
 std::size_t AllocLiveBlocks();
 
+// How many allocations have failed so far.  By the difference one can tell a look-up that found
+// nothing from one that had no memory for its key.
+std::size_t AllocFailures();
+
 // For tests of exhaustion: after `n` further allocations each one fails; -1 ends that.  AllocReset
 // leaves the setting alone.
 void AllocFailAfter(long n);

@@ -104,6 +104,9 @@ static bool OpenListing() {
   constexpr mode_t kMode = 0666;
   const int descriptor = open(listing_filename->c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kMode);
   listing_fp = descriptor < 0 ? nullptr : fdopen(descriptor, "w");
+  if (listing_fp == nullptr && descriptor >= 0) {
+    close(descriptor);
+  }
   if (listing_fp == nullptr) {
     ErrorFormat(kImmediate, "Error opening listing file %s", listing_filename->c_str());
   }
@@ -116,9 +119,16 @@ static bool ReportBadListing() {
   return false;
 }
 
+// From here on it is complete, and stays when a later fault is fatal.
 static bool FlushListing() {
-  return listing_fp == nullptr || (std::fflush(listing_fp) == 0 && std::ferror(listing_fp) == 0) ||
-         ReportBadListing();
+  if (listing_fp == nullptr) {
+    return true;
+  }
+  if (std::fflush(listing_fp) != 0 || std::ferror(listing_fp) != 0) {
+    return ReportBadListing();
+  }
+  OutputEndsInPlace(*listing_filename);
+  return true;
 }
 
 static bool CloseListing() {
@@ -143,6 +153,7 @@ static void DropListing() {
   if (is_file) {
     unlink(listing_filename->c_str());
   }
+  OutputEndsInPlace(*listing_filename);
 }
 
 // -- Reading the module ------------------------------------------------------------------------

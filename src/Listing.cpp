@@ -22,6 +22,7 @@
 #include "Files.h"
 #include "Model.h"
 #include "Options.h"
+#include "Output.h"
 #include "Scanner.h"
 
 List listing = nullptr;
@@ -355,9 +356,14 @@ void WriteLine(std::FILE *stream, const ListingLine *line, std::int64_t *row_cou
 static void EmptyListingFile() {
   struct stat status {};
   const int descriptor = fileno(listing_fp);
-  if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-      ftruncate(descriptor, 0) != 0) {
-    FatalErrorFormat("Error writing file \"%s\"", listing_filename.value_or("").c_str());
+  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+    return;
+  }
+  const std::string name = listing_filename.value_or("");
+  OutputBeginsInPlace(name);
+  if (ftruncate(descriptor, 0) != 0) {
+    OutputEndsInPlace(name);
+    FatalErrorFormat("Error writing file \"%s\"", name.c_str());
   }
 }
 

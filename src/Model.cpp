@@ -60,15 +60,24 @@ NamedBinding *ModelBinding(std::int32_t kind, const char *name, void *value) {
   return binding;
 }
 
+void *ModelFind(HashTable table, const char *name) {
+  const std::size_t failures = AllocFailures();
+  void *entry = HashFind(table, name);
+  if (AllocFailures() != failures) {
+    OutOfMemory();
+  }
+  return entry;
+}
+
 SimpleObjectRec *SymbolFind(const char *name) {
-  return static_cast<SimpleObjectRec *>(HashFind(symbol_table, name));
+  return static_cast<SimpleObjectRec *>(ModelFind(symbol_table, name));
 }
 
 static bool TableAdd(HashTable table, SimpleObjectRec *entry) {
   if (HashAdd(table, entry)) {
     return true;
   }
-  if (HashFind(table, entry->name) == nullptr) {
+  if (ModelFind(table, entry->name) == nullptr) {
     OutOfMemory();
   }
   return false;

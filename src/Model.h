@@ -55,6 +55,9 @@ void ModelAppend(List list, void *item);
 // A new binding of `name` (shared, not copied) to `value`; not entered in any table.
 NamedBinding *ModelBinding(std::int32_t kind, const char *name, void *value);
 
+// The entry of a table under that name, or null; exhaustion ends the run.
+void *ModelFind(HashTable table, const char *name);
+
 // The entry of `symbol_table` under that name, or null.
 SimpleObjectRec *SymbolFind(const char *name);
 

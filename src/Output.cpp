@@ -28,7 +28,7 @@
 #include "Files.h"
 #include "Options.h"
 
-constexpr std::size_t kTemporaries = 8; // at one time: a temporary file per slot and one in place
+constexpr std::size_t kTemporaries = 8; // at one time: a file per slot, one in place, the listing
 constexpr std::size_t kRandomLength = 16;
 constexpr std::string_view kBesidePrefix = ".kivut";
 constexpr mode_t kNewFileMode = 0666; // before the user's mask
@@ -74,6 +74,22 @@ static bool KeepTemporary(const std::string &name) {
   }
   SafeStrcpy(entry->text.data(), name.c_str(), entry->text.size());
   return true;
+}
+
+void OutputBeginsInPlace(const std::string &name) {
+  struct stat status {};
+  const SignalsHeld held;
+  if (lstat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode)) {
+    KeepTemporary(name);
+  }
+}
+
+void OutputEndsInPlace(const std::string &name) {
+  const SignalsHeld held;
+  TemporaryName *entry = FindTemporary(name);
+  if (entry != nullptr) {
+    entry->text[0] = '\0';
+  }
 }
 
 static void RemoveEntry(TemporaryName *entry) {

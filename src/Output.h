@@ -35,6 +35,11 @@ void OutputDiscard(OutputSlot *slot);
 // once.
 int OutputCheckStandard();
 
+// Between the two a file that is written in place counts as a temporary one: a run that ends early
+// removes it.  Devices, pipes and links stay.
+void OutputBeginsInPlace(const std::string &name);
+void OutputEndsInPlace(const std::string &name);
+
 // Removes every temporary file of the run that is still there.
 void OutputRemoveTemporaries();
 

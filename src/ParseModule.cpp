@@ -22,7 +22,7 @@ bool RegisterAdaName(SimpleObjectRec *entry, const char *conflict) {
     return true;
   }
   const auto *holder = static_cast<const BareWord *>(
-      static_cast<SimpleObjectRec *>(HashFind(names_table, claim->name)));
+      static_cast<SimpleObjectRec *>(ModelFind(names_table, claim->name)));
   ErrorFormat(kError, conflict, entry->name,
               static_cast<const SimpleObjectRec *>(holder->value)->name);
   return false;

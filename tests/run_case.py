@@ -21,7 +21,7 @@ A case is a folder that holds
 The command runs in the scratch directory, a fresh one for each run, through `sh -c`, with the
 program under test found as `kivuxl` by the search path, without input, under LC_ALL=C and TZ=UTC,
 without HOME.  TMPDIR names a fresh directory, which must be empty after the run.  A run may take 60
-seconds.  All contents are compared as bytes; what differs is printed as a unified diff, expected
+seconds.  With --stack it gets a stack of that many KiB, so that recursion on the input is found.  All contents are compared as bytes; what differs is printed as a unified diff, expected
 lines with "-".  The exit status is 0 when every case passes.
 
 Expected files are written by hand: nothing here can write them.
@@ -166,7 +166,8 @@ class Case:
 class Place:
     """The private directories of one run."""
 
-    def __init__(self, top, program):
+    def __init__(self, top, program, stack):
+        self.stack = stack
         self.scratch = os.path.join(top, "scratch")
         self.temporary = os.path.join(top, "tmp")
         self.streams = os.path.join(top, "streams")
@@ -218,7 +219,7 @@ def run_shell(words, place, environment, streams, limit):
         process = subprocess.Popen(["/bin/sh"] + words, cwd=place.scratch, env=environment,
                                    stdin=subprocess.DEVNULL, stdout=stdout, stderr=stderr,
                                    start_new_session=True, umask=0o022,
-                                   preexec_fn=prepare_child)
+                                   preexec_fn=lambda: prepare_child(place.stack))
     try:
         in_time = wait_for(process, limit)
     finally:
@@ -238,9 +239,11 @@ def stop(number, _):
     sys.exit(128 + number)
 
 
-def prepare_child():
+def prepare_child(stack):
     signal.pthread_sigmask(signal.SIG_UNBLOCK, [signal.SIGCHLD])
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+    if stack is not None:
+        resource.setrlimit(resource.RLIMIT_STACK, (stack * 1024, stack * 1024))
 
 
 def describe(path):
@@ -346,11 +349,11 @@ def make_removable(top):
                 os.chmod(path, 0o700)
 
 
-def faults_of(folder, program, limit):
+def faults_of(folder, program, limit, stack):
     """Everything wrong with one case."""
     top = tempfile.mkdtemp(prefix="kivuxl-case-")
     try:
-        return run_case(Case(folder), Place(top, program), limit)
+        return run_case(Case(folder), Place(top, program, stack), limit)
     except BadCase as bad:
         return ["bad case: %s\n" % bad]
     finally:
@@ -363,6 +366,7 @@ def main():
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--program", required=True, help="the program under test")
     parser.add_argument("--limit", type=float, default=60, help="seconds that a run may take")
+    parser.add_argument("--stack", type=int, help="KiB of stack that a run gets")
     parser.add_argument("cases", nargs="+", metavar="case", help="a case folder")
     options = parser.parse_args()
     if not os.access(options.program, os.X_OK) or os.path.isdir(options.program):
@@ -375,7 +379,7 @@ def main():
     failed = 0
     for folder in options.cases:
         name = os.path.basename(os.path.normpath(folder))
-        faults = faults_of(folder, options.program, options.limit)
+        faults = faults_of(folder, options.program, options.limit, options.stack)
         print("%s %s" % ("FAILED" if faults else "ok", name))
         for fault in faults:
             print(fault, end="" if fault.endswith("\n") else "\n")

@@ -193,6 +193,12 @@ class RunCase(unittest.TestCase):
         self.assert_fails({"setup": "mkfifo fifo\n", "command": "kivuxl out err text 'cat fifo'"},
                           "still running after 0.5 seconds\n", options=("--limit", "0.5"))
 
+    def test_stack(self):
+        parts = {"command": "kivuxl out err text 'ulimit -s'", "stdout": "out\n256\n"}
+        result = self.run_driver(parts, "--stack", "256")
+        self.assertEqual(result.returncode, 0, result.stdout)
+        self.assert_fails(parts, "-256\n", options=("--stack", "512"))
+
     def test_a_driver_that_is_stopped_leaves_nothing_running(self):
         fifo = os.path.join(self.top.name, "fifo")
         os.mkfifo(fifo)

@@ -188,6 +188,17 @@ TEST_F(Alloc, FailAfterCountsEveryKindOfAllocation) {
   EXPECT_NE(_MAlloc(1), nullptr);
 }
 
+TEST_F(Alloc, FailuresAreCounted) {
+  const std::size_t before = AllocFailures();
+  void *block = _MAlloc(1);
+  EXPECT_EQ(AllocFailures(), before);
+  EXPECT_EQ(_MAlloc(SIZE_MAX), nullptr);
+  EXPECT_EQ(_MReAlloc(block, SIZE_MAX), nullptr);
+  AllocFailAfter(0);
+  EXPECT_EQ(SafeStrdup("x"), nullptr);
+  EXPECT_EQ(AllocFailures(), before + 3);
+}
+
 TEST_F(Alloc, ResetGivesEverythingBackAndCanBeRepeated) {
   AllocReset();
   for (int round = 0; round < 3; ++round) {

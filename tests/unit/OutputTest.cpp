@@ -149,6 +149,19 @@ TEST_F(Output, AllTemporaryFilesAreRemovedTogether) {
 
 // -- Closing -----------------------------------------------------------------------------------
 
+TEST_F(Output, FileWrittenInPlaceGoesWithTheTemporaryOnesUntilItIsComplete) {
+  Put("half", "text");
+  Put("whole", "text");
+  std::filesystem::create_symlink("whole", "link");
+  for (const char *name : {"half", "whole", "link", "missing"}) {
+    OutputBeginsInPlace(name);
+  }
+  OutputEndsInPlace("whole");
+  OutputEndsInPlace("link");
+  OutputRemoveTemporaries();
+  EXPECT_EQ(All(), (std::set<std::string>{"link", "whole"}));
+}
+
 TEST_F(Output, UnitThatCannotBeWrittenIsNamedByItsFinalName) {
   OutputSlot slot;
   slot.name = "/dev/full";
