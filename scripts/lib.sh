@@ -54,6 +54,18 @@ TryStep() {
 # TryStep, and the end of the script when that fails.
 Step() { TryStep "$@" || Fail "failed: ${*:3}"; }
 
+# MakeLocales directory: compiles the locales under which the tests run into a directory of its own;
+# the system's stay as they are.
+MakeLocales() {
+  local name
+  mkdir -p "$1"
+  for name in C de_DE tr_TR ja_JP; do
+    if [ ! -d "$1/$name.UTF-8" ]; then
+      localedef --no-archive -i "$name" -f UTF-8 "$1/$name.UTF-8"
+    fi
+  done
+}
+
 # Runs a command as root.
 AsRoot() {
   if [ "$(id -u)" -eq 0 ]; then

@@ -21,7 +21,9 @@ A case is a folder that holds
 The command runs in the scratch directory, a fresh one for each run, through `sh -c`, with the
 program under test found as `kivuxl` by the search path, without input, under LC_ALL=C and TZ=UTC,
 without HOME.  TMPDIR names a fresh directory, which must be empty after the run.  A run may take 60
-seconds.  With --stack it gets a stack of that many KiB, so that recursion on the input is found.  All contents are compared as bytes; what differs is printed as a unified diff, expected
+seconds.  With --stack it gets a stack of that many KiB, so that recursion on the input is found.
+With --locale it runs under that locale instead, which must stand in the directory that the variable
+KIVUXL_LOCALES names; without that variable the exit status is 77.  All contents are compared as bytes; what differs is printed as a unified diff, expected
 lines with "-".  The exit status is 0 when every case passes.
 
 Expected files are written by hand: nothing here can write them.
@@ -166,15 +168,16 @@ class Case:
 class Place:
     """The private directories of one run."""
 
-    def __init__(self, top, program, stack):
-        self.stack = stack
+    def __init__(self, top, options):
+        self.stack = options.stack
+        self.locale = options.locale
         self.scratch = os.path.join(top, "scratch")
         self.temporary = os.path.join(top, "tmp")
         self.streams = os.path.join(top, "streams")
         self.bin = os.path.join(top, "bin")
         for folder in (self.temporary, self.streams, self.bin):
             os.mkdir(folder)
-        os.symlink(os.path.abspath(program), os.path.join(self.bin, "kivuxl"))
+        os.symlink(os.path.abspath(options.program), os.path.join(self.bin, "kivuxl"))
 
     def environment(self, case):
         values = {
@@ -186,12 +189,25 @@ class Place:
         for name in PASSED_ON:
             if name in os.environ:
                 values[name] = os.environ[name]
+        if self.locale is not None:
+            values.update(locale_environment(self.locale))
         for name, value in case.environment:
             if value is None:
                 values.pop(name, None)
             else:
                 values[name] = value
         return values
+
+
+def locale_environment(name):
+    return {"LC_ALL": name, "LOCPATH": os.environ["KIVUXL_LOCALES"]}
+
+
+def has_locale(name):
+    """Whether programs find the locale; one that they do not find is the C locale to them."""
+    probe = "import locale; locale.setlocale(locale.LC_ALL, '')"
+    return subprocess.run([sys.executable, "-c", probe], stderr=subprocess.DEVNULL, check=False,
+                          env=locale_environment(name)).returncode == 0
 
 
 def wait_for(process, limit):
@@ -349,11 +365,11 @@ def make_removable(top):
                 os.chmod(path, 0o700)
 
 
-def faults_of(folder, program, limit, stack):
+def faults_of(folder, options):
     """Everything wrong with one case."""
     top = tempfile.mkdtemp(prefix="kivuxl-case-")
     try:
-        return run_case(Case(folder), Place(top, program, stack), limit)
+        return run_case(Case(folder), Place(top, options), options.limit)
     except BadCase as bad:
         return ["bad case: %s\n" % bad]
     finally:
@@ -367,10 +383,16 @@ def main():
     parser.add_argument("--program", required=True, help="the program under test")
     parser.add_argument("--limit", type=float, default=60, help="seconds that a run may take")
     parser.add_argument("--stack", type=int, help="KiB of stack that a run gets")
+    parser.add_argument("--locale", help="the locale of the runs")
     parser.add_argument("cases", nargs="+", metavar="case", help="a case folder")
     options = parser.parse_args()
     if not os.access(options.program, os.X_OK) or os.path.isdir(options.program):
         parser.error("not a program: " + options.program)
+    if options.locale is not None and "KIVUXL_LOCALES" not in os.environ:
+        print("skipped: KIVUXL_LOCALES is not set")
+        return 77
+    if options.locale is not None and not has_locale(options.locale):
+        parser.error("no such locale: " + options.locale)
     sys.stdout.reconfigure(errors="backslashreplace")
     signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGCHLD])
     signal.signal(signal.SIGTERM, stop)
@@ -379,7 +401,7 @@ def main():
     failed = 0
     for folder in options.cases:
         name = os.path.basename(os.path.normpath(folder))
-        faults = faults_of(folder, options.program, options.limit, options.stack)
+        faults = faults_of(folder, options)
         print("%s %s" % ("FAILED" if faults else "ok", name))
         for fault in faults:
             print(fault, end="" if fault.endswith("\n") else "\n")

@@ -54,6 +54,7 @@ class RunCase(unittest.TestCase):
         write(self.program, PROGRAM)
         os.chmod(self.program, 0o755)
         self.environment = dict(os.environ, TMPDIR=os.path.join(self.top.name, "tmp"))
+        self.environment.pop("KIVUXL_LOCALES", None)
         os.mkdir(self.environment["TMPDIR"])
 
     def run_driver(self, parts, *options):
@@ -198,6 +199,18 @@ class RunCase(unittest.TestCase):
         result = self.run_driver(parts, "--stack", "256")
         self.assertEqual(result.returncode, 0, result.stdout)
         self.assert_fails(parts, "-256\n", options=("--stack", "512"))
+
+    def test_locale(self):
+        parts = {"command": "kivuxl out err text 'echo $LC_ALL'", "stdout": "out\nx_X\n"}
+        result = self.run_driver(parts, "--locale", "C")
+        self.assertEqual((result.returncode, result.stdout),
+                         (77, "skipped: KIVUXL_LOCALES is not set\n"))
+        self.environment["KIVUXL_LOCALES"] = self.top.name
+        result = self.run_driver(parts, "--locale", "x_X")
+        self.assertEqual(result.returncode, 2)
+        self.assertIn("no such locale: x_X", result.stdout)
+        result = self.run_driver({**parts, "stdout": "out\nC\n"}, "--locale", "C")
+        self.assertEqual(result.returncode, 0, result.stdout)
 
     def test_a_driver_that_is_stopped_leaves_nothing_running(self):
         fifo = os.path.join(self.top.name, "fifo")
