@@ -61,7 +61,7 @@ MakeLocales() {
   mkdir -p "$1"
   for name in C de_DE tr_TR ja_JP; do
     if [ ! -d "$1/$name.UTF-8" ]; then
-      localedef --no-archive -i "$name" -f UTF-8 "$1/$name.UTF-8"
+      localedef --no-archive -i "$name" -f UTF-8 "$1/$name.UTF-8" || return
     fi
   done
 }

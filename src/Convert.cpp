@@ -140,14 +140,23 @@ static bool CloseListing() {
   return closed || ReportBadListing();
 }
 
+// Whether the open listing still stands under its name as a file of its own: not under a link, and
+// not replaced by a unit of that name.
+static bool IsListingInPlace() {
+  struct stat named {};
+  struct stat open {};
+  return lstat(listing_filename->c_str(), &named) == 0 && S_ISREG(named.st_mode) &&
+         fstat(fileno(listing_fp), &open) == 0 && named.st_dev == open.st_dev &&
+         named.st_ino == open.st_ino;
+}
+
 // Removes an open listing, unless its name is a device's, a pipe's or a link's: /dev/stdout stays,
 // whatever it leads to.
 static void DropListing() {
   if (listing_fp == nullptr) {
     return;
   }
-  struct stat status {};
-  const bool is_file = lstat(listing_filename->c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  const bool is_file = IsListingInPlace();
   std::fclose(listing_fp);
   listing_fp = nullptr;
   if (is_file) {
