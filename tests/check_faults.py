@@ -257,7 +257,8 @@ class Check:
 
     def signals(self):
         for number in SIGNALS:
-            self.walk(number.name, lambda call, n=number: "any,%d,%d,-%d;" % (call, call, n), number)
+            self.walk(number.name,
+                      lambda call, n=number: "any,%d,%d,-%d;" % (call, call, n), number)
         number = signal.SIGTERM
         self.walk("SIGTERM (copied)", lambda call: COPIED + "any,%d,%d,-%d;" % (call, call, number),
                   number)

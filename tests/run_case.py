@@ -23,8 +23,9 @@ program under test found as `kivuxl` by the search path, without input, under LC
 without HOME.  TMPDIR names a fresh directory, which must be empty after the run.  A run may take 60
 seconds.  With --stack it gets a stack of that many KiB, so that recursion on the input is found.
 With --locale it runs under that locale instead, which must stand in the directory that the variable
-KIVUXL_LOCALES names; without that variable the exit status is 77.  All contents are compared as bytes; what differs is printed as a unified diff, expected
-lines with "-".  The exit status is 0 when every case passes.
+KIVUXL_LOCALES names; without that variable the exit status is 77.  All contents are compared as
+bytes; what differs is printed as a unified diff, expected lines with "-".  The exit status is 0 when
+every case passes.
 
 Expected files are written by hand: nothing here can write them.
 """
