@@ -80,12 +80,18 @@ static void EnterWidget(TreeWalk *walk, const WidgetDef *definition) {
   Enter(walk, definition, definition, definition->ctls);
 }
 
-// What is written for a widget is kept by its name, so a name that was made for an object without
-// one must not be the name of another: one of the two would be left out.
+// What is written for a widget is kept by its name and goes by the legal form of that, so the name
+// made for an object without one must not be the name of another.
 static void CheckAnonymous(const WidgetDef *definition) {
-  if (definition->anon && SymbolFind(definition->name) != nullptr) {
+  if (!definition->anon) {
+    return;
+  }
+  const auto *holder = static_cast<const BareWord *>(
+      static_cast<SimpleObjectRec *>(ModelFind(names_table, LegalText(definition->name))));
+  if (holder != nullptr && holder->kind == WIDGET_NAME &&
+      WidgetIsDefined(static_cast<const WidgetValue *>(holder->value)->value)) {
     FatalErrorFormat("Cannot use %s as widget name because it conflicts with an anonymous object",
-                     definition->name);
+                     static_cast<const WidgetValue *>(holder->value)->name);
   }
 }
 

@@ -88,15 +88,26 @@ const WidgetDef *WidgetResolve(WidgetRef *reference) {
 // -- Flattening --------------------------------------------------------------------------------
 
 // What tells one sort of list from the others: the kinds that stand for a list inside it, what
-// becomes of any other item, and the complaint when it opens into too much.
+// becomes of any other item, for how many it counts, and the complaint when a list opens into too
+// much.
 struct FlatRules {
   std::int32_t list_kind;
   std::int32_t list_name_kind;
   KindRec *(*keep)(KindRec *item);
+  std::uint32_t (*weight)(const KindRec *item);
   const char *overflow;
 };
 
 static KindRec *KeepItem(KindRec *item) { return item; }
+
+static std::uint32_t WeighItem(const KindRec * /*item*/) { return 1; }
+
+// Each procedure of a callback is written, and a list of procedures may be shared by many
+// callbacks.
+static std::uint32_t WeighCallback(const KindRec *item) {
+  const auto procedures = ListLength(static_cast<const CallbackValue *>(item)->value);
+  return static_cast<std::uint32_t>(std::clamp<std::size_t>(procedures, 1, kMaxFlatItems + 1));
+}
 
 static KindRec *KeepControl(KindRec *item) {
   switch (item->kind) {
@@ -116,14 +127,14 @@ static KindRec *KeepControl(KindRec *item) {
 }
 
 static constexpr FlatRules kArgumentRules = {ARGUMENTS_LIST, ARGUMENTS_LIST_NAME, KeepItem,
-                                             "Too many arguments in"};
+                                             WeighItem, "Too many arguments in"};
 static constexpr FlatRules kCallbackRules = {CALLBACKS_LIST, CALLBACKS_LIST_NAME, KeepItem,
-                                             "Too many callbacks in"};
+                                             WeighCallback, "Too many callbacks in"};
 static constexpr FlatRules kControlRules = {CONTROLS_LIST, CONTROLS_LIST_NAME, KeepControl,
-                                            "Too many controls below"};
+                                            WeighItem, "Too many controls below"};
 
-// The note on a list: how many items it opens into, whether there are lists in it, and that both
-// are known.
+// The note on a list: the weight of the items that it opens into, whether there are lists in it,
+// and that both are known.
 constexpr std::uint32_t kCounted = 1;
 constexpr std::uint32_t kHasLists = 2;
 constexpr std::uint32_t kCountUnit = 4;
@@ -151,7 +162,7 @@ static ListCount StartCount(List list) {
 // Counts the next item.  False when it is a list whose own count is missing.
 static bool CountItem(ListCount *count, const FlatRules &rules) {
   auto *item = static_cast<KindRec *>(count->next->data);
-  std::uint32_t items = 1;
+  std::uint32_t items = 0;
   if (IsList(item, rules)) {
     List list = ListOfItem(item);
     if (list != nullptr && list->note == 0) {
@@ -160,6 +171,7 @@ static bool CountItem(ListCount *count, const FlatRules &rules) {
     items = list == nullptr ? 0 : list->note / kCountUnit;
     count->has_lists = kHasLists;
   } else {
+    items = rules.weight(item);
     count->next->data = rules.keep(item);
   }
   count->items = std::min(count->items + items, kTooMany);
@@ -167,8 +179,8 @@ static bool CountItem(ListCount *count, const FlatRules &rules) {
   return true;
 }
 
-// How many items the list opens into, kTooMany at most.  Notes that on it and on all lists in it,
-// whose items become what they are kept as.
+// The weight of what the list opens into, kTooMany at most.  Notes that on it and on all lists in
+// it, whose items become what they are kept as.
 static std::uint32_t CountOpened(List source, const FlatRules &rules) {
   if (source == nullptr) {
     return 0;
@@ -192,6 +204,7 @@ static std::uint32_t CountOpened(List source, const FlatRules &rules) {
 // The items of `source` in a new list, each list in it replaced by its own items, to any depth.
 static List FlatCopy(const WidgetDef *widget, List source, const FlatRules &rules) {
   FlatList flat(ModelList());
+  std::uint32_t left = kMaxFlatItems;
   std::vector<const ListItem *> open = {ListFirstNode(source)}; // what is still to do, per list
   while (!open.empty()) {
     const ListItem *node = open.back();
@@ -202,11 +215,12 @@ static List FlatCopy(const WidgetDef *widget, List source, const FlatRules &rule
     open.back() = node->next;
     auto *item = static_cast<KindRec *>(node->data);
     const bool is_list = IsList(item, rules);
-    const std::uint32_t items = is_list ? CountOpened(ListOfItem(item), rules) : 1;
-    if (items > kMaxFlatItems - ListLength(flat.get())) {
+    const std::uint32_t items = is_list ? CountOpened(ListOfItem(item), rules) : rules.weight(item);
+    if (items > left) {
       FatalErrorFormat("%s %s", rules.overflow, widget->name);
     }
     if (!is_list) {
+      left -= items;
       ModelAppend(flat.get(), rules.keep(item));
     } else if (items > 0) {
       open.push_back(ListFirstNode(ListOfItem(item)));

@@ -27,8 +27,8 @@ struct ListDestroyer {
 using FlatList = std::unique_ptr<ListHeader, ListDestroyer>;
 
 // A list may name another one twice, and that one again, so that a short module opens into more
-// items than any memory holds.  Opening into more than this for one widget ends the run with status
-// 1.
+// items than any memory holds.  Opening into more than this for one widget, each procedure of a
+// callback counted, ends the run with status 1.
 constexpr std::uint32_t kMaxFlatItems = 2000000;
 
 // Null gives an empty list, which may be null.  In the controls, references are resolved; one that
