@@ -168,6 +168,7 @@ static bool HashIndexReserve(HashIndexRec &index) {
   HashIndexRec grown = {};
   grown.size = std::max(kFirstIndexSize, index.size * 2);
   grown.compare = index.compare;
+  grown.hash = index.hash;
   void *memory = _MAlloc(grown.size * sizeof(HashSlotRec));
   if (memory == nullptr) {
     return false;
@@ -208,6 +209,7 @@ HashTable HashCreate(unsigned max_entries, KeyFunc key_func, HashFunc hash_func,
   table->compare_func = compare_func != nullptr ? compare_func : CaseSensitiveCompareFunc;
   table->destroy_func = destroy_func;
   table->index.compare = HashHasStockCompare(*table) ? table->compare_func : nullptr;
+  table->index.hash = table->hash_func;
   return table;
 }
 
@@ -267,7 +269,7 @@ bool HashAdd(HashTable table, void *entry) {
 // look-ups are of this sort; without a copy of the name and its bucket they take a third.
 static bool HashKeysAreNames(const HashTableRec &table) {
   return table.key_func == CaseSensitiveKeyFunc && table.compare_func == CaseSensitiveCompareFunc &&
-         HashIndexIsCurrent(table);
+         table.hash_func == table.index.hash && HashIndexIsCurrent(table);
 }
 
 void *HashFind(HashTable table, const char *key) {

@@ -53,6 +53,7 @@ struct HashIndexRec {
   std::uint32_t size;  // number of slots, 0 or a power of two
   std::uint32_t count; // slots in use
   CompareFunc compare; // the stock function that the slots were placed under, or null
+  HashFunc hash;       // what chose the buckets of their links
 };
 
 struct HashTableRec {

@@ -320,6 +320,7 @@ static void ListUnlink(List list, ListItem *node) {
     list->previous = nullptr;
   }
   --list->nitems;
+  list->note = 0;
 }
 
 // -- The list ----------------------------------------------------------------------------------
@@ -344,6 +345,7 @@ static void ListClear(List list) {
   list->traverse = nullptr;
   list->previous = nullptr;
   list->nitems = 0;
+  list->note = 0;
 }
 
 void ListDestroyItems(List list) {
@@ -374,6 +376,7 @@ void ListAppendItem(List list, void *item) {
   ListJoin(list, list->last, node);
   ListJoin(list, node, nullptr);
   ++list->nitems;
+  list->note = 0;
 }
 
 void ListPrependItem(List list, const void *key, void *item) {
@@ -400,6 +403,7 @@ void ListPrependItem(List list, const void *key, void *item) {
   ListJoin(list, prev, node);
   ListJoin(list, node, match);
   ++list->nitems;
+  list->note = 0;
   ListIndexInsert(list, node, node);
 }
 
@@ -452,6 +456,7 @@ void ListAppend(List l1, List l2) {
   ListJoin(l1, l1->last, l2->first);
   l1->last = last;
   l1->nitems += l2->nitems;
+  l1->note = 0;
   ListClear(l2);
 }
 
@@ -485,6 +490,7 @@ static void ListSplice(List list, const ListItem *node, List inserted) {
   ListJoin(list, node->prev, first);
   ListJoin(list, last, node->next);
   list->nitems += inserted->nitems;
+  list->note = 0;
   ListClear(inserted);
   ListDestroy(inserted);
   if (last->next != nullptr) {

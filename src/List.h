@@ -34,7 +34,7 @@ struct ListHeader {
   DestroyProc destroy;  // may be null
   KeyProc keyproc;      // may be null
   std::uint32_t nitems; // number of nodes
-  std::uint32_t note;   // for whoever made the list; 0 in a new one
+  std::uint32_t note;   // for whoever made the list; 0 in a new one and after each change
   ListIndexRec *index;  // private: finds the first match of a text key without a walk
 };
 using List = ListHeader *;

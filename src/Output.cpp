@@ -19,6 +19,7 @@
 #include <climits>
 #include <csignal>
 #include <cstdlib>
+#include <exception>
 #include <memory>
 #include <string_view>
 
@@ -323,19 +324,32 @@ int CopyTemporaryToFile(const std::string &temporary, const std::string &final_n
 // -- Signals -----------------------------------------------------------------------------------
 
 // Nothing but calls that are allowed in a handler.
-static void EndBySignal(int number) {
+static void RemoveTemporaries() {
   for (const TemporaryName &entry : temporaries) {
     if (entry.text[0] != '\0') {
       unlink(entry.text.data());
     }
   }
+}
+
+static void EndBySignal(int number) {
+  RemoveTemporaries();
   struct sigaction action {};
   action.sa_handler = SIG_DFL;
   sigaction(number, &action, nullptr);
   raise(number); // comes when the handler returns
 }
 
+// Ending the run throws, and without any memory even that fails.
+[[noreturn]] static void EndWithoutMemory() {
+  constexpr std::string_view kText = "kivuxl: Out of memory.\n";
+  static_cast<void>(write(STDERR_FILENO, kText.data(), kText.size()) < 0);
+  RemoveTemporaries();
+  _exit(1);
+}
+
 void OutputCatchSignals() {
+  std::set_terminate(EndWithoutMemory);
   struct sigaction action {};
   sigemptyset(&action.sa_mask);
   for (const int number : kSignals) {

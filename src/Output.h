@@ -44,7 +44,8 @@ void OutputEndsInPlace(const std::string &name);
 void OutputRemoveTemporaries();
 
 // Makes SIGINT, SIGTERM, SIGHUP and SIGPIPE, as far as the caller has not had them ignored, remove
-// the run's temporary files before they end the process.
+// the run's temporary files before they end the process.  Ends it with status 1 and a message when
+// there is not even the memory to end it otherwise.
 void OutputCatchSignals();
 
 void OutputReset();

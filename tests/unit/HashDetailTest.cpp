@@ -218,3 +218,17 @@ TEST(HashDetail, EmptyTextIsAName) {
   EXPECT_EQ(nullptr, HashFind(nullptr, ""));
   HashDestroy(table, false);
 }
+
+static std::uint32_t Const(const char *) { return 5; }
+
+TEST(HashDetail, AnotherHashFunctionLooksInItsOwnChain) {
+  SimpleObjectRec first = Named("abc");
+  SimpleObjectRec second = Named("abc");
+  HashTable table = HashCreate(0, nullptr, nullptr, nullptr, nullptr);
+  EXPECT_TRUE(HashAdd(table, &first));
+  table->hash_func = Const;
+  EXPECT_EQ(nullptr, HashFind(table, "abc"));
+  EXPECT_TRUE(HashAdd(table, &second));
+  EXPECT_EQ(&second, HashFind(table, "abc"));
+  HashDestroy(table, false);
+}
