@@ -47,6 +47,8 @@ PARTS = {"command", "status", "stdout", "stderr", "files", "input", "expected", 
          "setup"}
 # Set by the build's test runner for instrumented programs; harmless to others.
 PASSED_ON = ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
+# Signals that ask this program to stop.
+STOPS = (signal.SIGTERM, signal.SIGHUP)
 
 
 class BadCase(Exception):
@@ -232,12 +234,15 @@ def run_shell(words, place, environment, streams, limit):
     group outlives the call.
     """
     out, err = streams
+    # A request to stop waits until the process is known here, or it would outlive this program.
+    signal.pthread_sigmask(signal.SIG_BLOCK, STOPS)
     with open(out, "wb") as stdout, open(err, "wb") as stderr:
         process = subprocess.Popen(["/bin/sh"] + words, cwd=place.scratch, env=environment,
                                    stdin=subprocess.DEVNULL, stdout=stdout, stderr=stderr,
                                    start_new_session=True, umask=0o022,
                                    preexec_fn=lambda: prepare_child(place.stack))
     try:
+        signal.pthread_sigmask(signal.SIG_UNBLOCK, STOPS)
         in_time = wait_for(process, limit)
     finally:
         # Also when this program is told to stop; the leader's id is still its own.
@@ -257,7 +262,7 @@ def stop(number, _):
 
 
 def prepare_child(stack):
-    signal.pthread_sigmask(signal.SIG_UNBLOCK, [signal.SIGCHLD])
+    signal.pthread_sigmask(signal.SIG_UNBLOCK, [signal.SIGCHLD, *STOPS])
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
     if stack is not None:
         resource.setrlimit(resource.RLIMIT_STACK, (stack * 1024, stack * 1024))
@@ -396,8 +401,8 @@ def main():
         parser.error("no such locale: " + options.locale)
     sys.stdout.reconfigure(errors="backslashreplace")
     signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGCHLD])
-    signal.signal(signal.SIGTERM, stop)
-    signal.signal(signal.SIGHUP, stop)
+    for number in STOPS:
+        signal.signal(number, stop)
 
     failed = 0
     for folder in options.cases:
