@@ -137,6 +137,24 @@ TEST_F(Output, TemporaryFileThatCannotBeOpened) {
   EXPECT_EQ(slot.name, "");
 }
 
+// The signal handlers know of eight.
+TEST_F(Output, ThereIsRoomForEightTemporaryFiles) {
+  std::vector<std::string> names;
+  for (int i = 0; i < 8; ++i) {
+    names.push_back(Finished(""));
+  }
+  OutputSlot ninth;
+  EXPECT_EQ(ErrorsOf([&] {
+              EXPECT_EQ(MakeTemporaryFile("tmp", "kivut", &ninth.name, &ninth.stream), 0);
+            }),
+            "kivuxl: Error opening temporary file.\n");
+  EXPECT_EQ(ninth.stream, nullptr);
+  EXPECT_EQ(ninth.name, "");
+  EXPECT_EQ(All(), std::set<std::string>(names.begin(), names.end()));
+  EXPECT_EQ(PlaceComplaint(names[0], "m.ads"), "kivuxl: Error moving temporary file.\n");
+  EXPECT_EQ(All(), std::set<std::string>(names.begin(), names.end()));
+}
+
 TEST_F(Output, AllTemporaryFilesAreRemovedTogether) {
   std::vector<OutputSlot> slots = {Slot("1"), Slot("2"), Slot("3"), Slot("4"), Slot("5")};
   EXPECT_EQ(All().size(), 5U);
@@ -297,6 +315,48 @@ TEST_F(Output, OldUnitStaysWhenTheCopyCannotBeWritten) {
   EXPECT_EQ(All(), (std::set<std::string>{"m.ads"}));
 }
 
+// Lets no descriptor above the next `count` free ones be opened for one scope.
+struct FewDescriptors {
+  rlimit before{};
+  explicit FewDescriptors(rlim_t count) {
+    getrlimit(RLIMIT_NOFILE, &before);
+    const int next = dup(STDIN_FILENO);
+    close(next);
+    const rlimit few = {static_cast<rlim_t>(next) + count, before.rlim_max};
+    EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  }
+  ~FewDescriptors() { setrlimit(RLIMIT_NOFILE, &before); }
+  FewDescriptors(const FewDescriptors &) = delete;
+  FewDescriptors &operator=(const FewDescriptors &) = delete;
+};
+
+TEST_F(Output, CopyWithoutDescriptorsIsReported) {
+  const char *elsewhere = Elsewhere();
+  if (elsewhere == nullptr) {
+    GTEST_SKIP() << "no second file system";
+  }
+  const std::string temporary = Finished("new", elsewhere);
+  Put("m.ads", "old");
+  const std::string named[] = {"\"" + temporary + "\" for reading", "\"m.ads\" for writing"};
+  for (rlim_t count = 0; count < 2; ++count) {
+    const std::string complaint = ErrorsOf([&] {
+      const FewDescriptors few(count);
+      EXPECT_EQ(CopyTemporaryToFile(temporary, "m.ads"), 0);
+    });
+    EXPECT_EQ(complaint, "kivuxl: Cannot open file " + named[count] +
+                             ".\nkivuxl: Error copying temporary file.\n");
+    EXPECT_EQ(Contents("m.ads"), "old");
+    EXPECT_EQ(All(), (std::set<std::string>{"m.ads"}));
+  }
+}
+
+// A directory cannot be linked, and opens, but cannot be read.
+TEST_F(Output, WhatCannotBeReadIsNotPlaced) {
+  EXPECT_EQ(PlaceComplaint("tmp", "m.ads"), "kivuxl: Error reading file \"tmp\".\n"
+                                            "kivuxl: Error copying temporary file.\n");
+  EXPECT_EQ(All(), (std::set<std::string>{}));
+}
+
 // -- Signals -----------------------------------------------------------------------------------
 
 // Runs `act` in a process of its own and returns how that has ended.
@@ -334,4 +394,19 @@ TEST_F(Output, IgnoredSignalsStayIgnored) {
   });
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
   EXPECT_EQ(All().size(), 1U);
+}
+
+// The handler itself, for a signal that does not end the process.
+TEST_F(Output, HandlerRemovesEveryTemporaryFile) {
+  struct sigaction handler {};
+  const int status = EndingOf([&] {
+    OutputCatchSignals();
+    sigaction(SIGTERM, nullptr, &handler);
+    Finished("1");
+    Finished("2");
+    std::signal(SIGURG, SIG_IGN);
+    handler.sa_handler(SIGURG);
+    std::exit(All().empty() ? 0 : 1);
+  });
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }

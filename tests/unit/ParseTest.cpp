@@ -295,6 +295,60 @@ TEST_F(Parse, EveryConstructHasItsUsageText) {
                "user_defined procedure <procedure> { <attribute> ; ... }");
 }
 
+// A part that is wrong is reported once, and what it is a part of goes on without it.
+TEST_F(Parse, FaultyPartsAreLeftOut) {
+  struct Row {
+    const char *text;
+    Construct part;
+  };
+  const Row rows[] = {
+      {"value t : color_table (color (1) = 'x', color ('red') = 'y');", kColor},
+      {"value t : font_table (font (1), font ('fixed'));", kFont},
+      {"value c : compound_string (1) & compound_string ('a');", kCompoundString},
+      {"value c : compound_string ('a') & compound_string (1);", kCompoundString},
+      {"value t : compound_string_table (compound_string (1), compound_string ('a'));",
+       kCompoundString},
+      {"value c : compound_string ('a', character_set = character_set (1));",
+       kCharacterSetFunction},
+      {"value f : font ('fixed', character_set = character_set (1));", kCharacterSetFunction},
+      {"value t : integer_table (integer (), 5);", kIntegerFunction},
+      {"value r : rgb (integer (), 5, 6);", kIntegerFunction},
+      {"object f : XmForm { controls { XmLabel { 5 }; XmLabel b; }; }; b : XmLabel { };",
+       kWidgetDefinition},
+      {"object f : XmForm { controls { XmLabel b; }; }; b : XmLabel { 5 };", kWidgetDefinition},
+  };
+  for (const Row &row : rows) {
+    const std::string text = std::string("module m ") + row.text + " end module;";
+    EXPECT_EQ(ParseText(text),
+              "m.uil(1): " + text + "\n  syntax: expected " + UsageOf(row.part) + "\n\n");
+    TearDown();
+    SetUp();
+  }
+}
+
+TEST_F(Parse, WhatIsGoodOfATableStays) {
+  ParseText("module m value t : integer_table (integer (), 5); end module;");
+  const auto &table = Value<IntegerTableValue>("t");
+  ASSERT_EQ(ListLength(table.value), 1U);
+  EXPECT_EQ(static_cast<const IntegerValue *>(ListFirstNode(table.value)->data)->value, 5);
+}
+
+TEST_F(Parse, ColorsFallBackWithAndWithoutAComma) {
+  EXPECT_EQ(ParseText("module m value a : color ('red' background); b : color ('red', background);"
+                      " c : color ('red' foreground); d : color ('red', foreground);"
+                      " e : color ('red'); end module;"),
+            "");
+  EXPECT_EQ(Value<ColorValue>("a").fallback, BACKGROUND);
+  EXPECT_EQ(Value<ColorValue>("b").fallback, BACKGROUND);
+  EXPECT_EQ(Value<ColorValue>("c").fallback, FOREGROUND);
+  EXPECT_EQ(Value<ColorValue>("d").fallback, FOREGROUND);
+  EXPECT_EQ(Value<ColorValue>("e").fallback, NIL);
+}
+
+TEST_F(Parse, ClausesAndSectionsMayBeEmpty) {
+  EXPECT_EQ(ParseText("module m objects = { } object object end module;"), "");
+}
+
 TEST_F(Parse, FatalFaultEndsTheParse) {
   Put("m.uil", "module m value a : 1; include file 'nowhere'; value b : 2; end module;");
   ASSERT_NE(FilesOpen("m.uil", false), nullptr);

@@ -1,0 +1,338 @@
+#!/usr/bin/env python3
+"""Changes the sources at some places, one at a time, and counts which changes the tests notice.
+
+    tests/mutants.py --build build/mutants [--seed N] [--count N] [--jobs N] [--only TEXT]
+
+The build directory holds everything compiled as it is; scripts/mutants makes it.  Each change is
+made to a copy of a source; the copy alone is compiled, and linked in front of the libraries with the
+objects of the unit tests and of the quick cases.  A change is noticed when a test fails, crashes or
+hangs.  One that does not compile is no change: another takes its place.
+
+There are four kinds of changes, and as many of each:
+
+    text        one character of a text or of a character constant
+    order       two neighbouring calls, lines of a text or rows of a table change places
+    constant    a number becomes larger by one
+    comparison  the opposite for == and !=, the bound included or left out for the others
+
+The exit status is 0 when 98 % of the changes are noticed.  Changes that nobody can see are listed
+in UNSEEN, with the reason; they are not made.
+"""
+
+import argparse
+import collections
+import concurrent.futures
+import json
+import os
+import pathlib
+import random
+import re
+import shlex
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+WANTED_PERCENT = 98
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+KINDS = ("text", "order", "constant", "comparison")
+
+# Changes of which nothing can be seen from outside: (source, the line before, after, reason), the
+# lines without the blanks around them.
+UNSEEN = []
+
+# A literal, a comment, a preprocessor line, or any one character.
+TOKEN = re.compile(
+    r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*|.',
+    re.DOTALL | re.MULTILINE)
+# What a character of a text is looked at as: an escape or a format's directive stay whole.
+PIECE = re.compile(r"\\[0-7]{1,3}|\\x[0-9a-fA-F]+|\\.|%[-+ #0-9.*l]*[a-zA-Z%]|.", re.DOTALL)
+
+Mutant = collections.namedtuple("Mutant", "kind path start end new")
+
+
+# -- Where something can be changed ---------------------------------------------------------------
+
+
+def regions(text):
+    """Pairs of the literals' and the bare code's (start, end); comments are in neither."""
+    literals, code = [], []
+    start = None
+    for match in TOKEN.finditer(text):
+        token = match[0]
+        if len(token) == 1 and token not in "\"'":
+            start = match.start() if start is None else start
+            continue
+        if start is not None:
+            code.append((start, match.start()))
+            start = None
+        if token[0] in "\"'":
+            literals.append(match.span())
+    if start is not None:
+        code.append((start, len(text)))
+    return literals, code
+
+
+def other_character(character):
+    """What a character becomes: one that is no mere respelling."""
+    if character == " ":
+        return ""
+    if character.isdigit():
+        return str((int(character) + 1) % 10)
+    if character.isalpha():
+        return "q" if character not in "qQ" else "k"
+    return "_" if character != "_" else "-"
+
+
+def text_mutants(path, text, literals):
+    for start, end in literals:
+        line = text[text.rfind("\n", 0, start) + 1:start]
+        if "static_assert" in line or "printf(" in line and "%" not in text[start:end]:
+            continue
+        for piece in PIECE.finditer(text, start + 1, end - 1):
+            if len(piece[0]) == 1:
+                yield Mutant("text", path, *piece.span(), other_character(piece[0]))
+
+
+LITERAL_LINE = re.compile(r'[ \t]+("(?:[^"\\]|\\.)*")[,;)]*$')
+ROW_LINE = re.compile(r"[ \t]+(\{.*\}),?(?:[ \t]*//.*)?$")
+CALL_LINE = re.compile(r"[ \t]+((?:std::)?[A-Za-z_][A-Za-z_0-9]*\(.*\);)$")
+
+
+def order_mutants(path, text):
+    """Two neighbouring lines of one kind and one indentation."""
+    previous = None
+    offset = 0
+    for line in text.split("\n"):
+        here = None
+        for shape in (LITERAL_LINE, ROW_LINE, CALL_LINE):
+            match = shape.match(line)
+            if match:
+                here = (shape, len(line) - len(line.lstrip()), offset + match.start(1),
+                        offset + match.end(1))
+                break
+        if here and previous and here[:2] == previous[:2]:
+            first, second = text[slice(*previous[2:])], text[slice(*here[2:])]
+            between = text[previous[3]:here[2]]
+            if first != second:
+                yield Mutant("order", path, previous[2], here[3], second + between + first)
+        previous = here
+        offset += len(line) + 1
+
+
+NUMBER = re.compile(r"(?<![\w.])(\d+)(?=[uUlL]*\b(?!\.))")
+COMPARISON = re.compile(r"(?<= )(==|!=|<=|>=|<|>)(?= )")
+OPPOSITES = {"==": "!=", "!=": "==", "<": "<=", "<=": "<", ">": ">=", ">=": ">"}
+
+
+def code_mutants(path, text, code):
+    for start, end in code:
+        for match in NUMBER.finditer(text, start, end):
+            if "static_assert" not in text[text.rfind("\n", 0, match.start()):match.start()]:
+                yield Mutant("constant", path, *match.span(1), str(int(match[1], 0) + 1)
+                             if match[1] == "0" or match[1][0] != "0" else match[1] + "1")
+        for match in COMPARISON.finditer(text, start, end):
+            if "static_assert" not in text[text.rfind("\n", 0, match.start()):match.start()]:
+                yield Mutant("comparison", path, *match.span(1), OPPOSITES[match[1]])
+
+
+def mutants_of(path, text):
+    literals, code = regions(text)
+    yield from text_mutants(path, text, literals)
+    yield from order_mutants(path, text)
+    yield from code_mutants(path, text, code)
+
+
+def lines_around(mutant, text):
+    """The number of the first line that a change touches, and those lines before and after it."""
+    start = text.rfind("\n", 0, mutant.start) + 1
+    end = text.find("\n", mutant.end)
+    before = text[start:end]
+    after = text[start:mutant.start] + mutant.new + text[mutant.end:end]
+    return text.count("\n", 0, start) + 1, before, after
+
+
+def is_unseen(mutant, text):
+    _, before, after = lines_around(mutant, text)
+    return any((mutant.path.name, before.strip(), after.strip()) == entry[:3] for entry in UNSEEN)
+
+
+# -- Building and running -------------------------------------------------------------------------
+
+
+# A changed program may want everything.
+LIMITED = ("nice", "-n", "10", "prlimit", "--core=0", "--as=%d" % (4 << 30),
+           "--fsize=%d" % (1 << 28), "--")
+
+
+def run(command, limit, **options):
+    """The exit status, None after `limit` seconds, and the output of a command."""
+    with subprocess.Popen([*LIMITED, *command], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, start_new_session=True, **options) as process:
+        try:
+            output, _ = process.communicate(timeout=limit)
+            status = process.returncode
+        except subprocess.TimeoutExpired:
+            output, status = b"", None
+        # Whatever the process has started and left.
+        try:
+            os.killpg(process.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
+    return status, output.decode("utf-8", "backslashreplace")
+
+
+class Builder:
+    """Makes and tries changed programs."""
+
+    STEPS = ("All/Cases.*:CaseRunner.*", "-All/Cases.*:CaseRunner.*")
+
+    def __init__(self, build):
+        self.build = build.resolve()
+        entries = json.loads((self.build / "compile_commands.json").read_text())
+        self.commands = {entry["file"]: entry for entry in entries}
+        self.objects = sorted(
+            str(path) for target in ("unit_tests", "quick_cases")
+            for path in (self.build / "tests" / "CMakeFiles" / (target + ".dir")).rglob("*.o"))
+        self.limits = [120, 240]
+
+    def compiled(self, source, place):
+        """Compiles a changed copy; the object, or None when that fails."""
+        generated = {"uil.y": "uil.tab.cpp", "lex.l": "lex.yy.cpp"}.get(source.name)
+        copy = place / source.name
+        if generated:
+            entry = self.commands[str(self.build / "generated" / generated)]
+            tool = ["bison"] if source.suffix == ".y" else ["flex"]
+            if run([*tool, "-o", str(place / generated), str(copy)], 60)[0] != 0:
+                return None
+            copy = place / generated
+        else:
+            entry = self.commands[str(source)]
+        words = shlex.split(entry["command"])
+        words[words.index("-o") + 1] = str(place / "changed.o")
+        words[words.index("-c") + 1] = str(copy)
+        status, _ = run(words, 120, cwd=entry["directory"])
+        return place / "changed.o" if status == 0 else None
+
+    def linked(self, changed, place):
+        program = place / "tests"
+        status, output = run(
+            ["g++", "-o", str(program), *([str(changed)] if changed else []), *self.objects,
+             str(self.build / "libtranslator.a"), str(self.build / "libfoundation.a"),
+             "-lgtest", "-lgtest_main", "-pthread"], 300)
+        if status != 0:
+            sys.exit("cannot link:\n" + output)
+        return program
+
+    def fault_noticed(self, program, place):
+        """How the tests notice that something is wrong, or None."""
+        temporary = place / "tmp"
+        temporary.mkdir()
+        environment = dict(os.environ, TMPDIR=str(temporary), LC_ALL="C", TZ="UTC")
+        for step, limit in zip(self.STEPS, self.limits):
+            status, output = run([str(program), "--gtest_brief=1", "--gtest_fail_fast",
+                                  "--gtest_filter=" + step], limit, cwd=place, env=environment)
+            if status is None:
+                return "hang"
+            if status != 0:
+                failed = re.search(r"\[  FAILED  \] ([^\s,]+)", output)
+                return failed[1] if failed else "status %d" % status
+        return None
+
+    def calibrate(self):
+        """Tries the program as it is, which must pass, and sets the limits by its time."""
+        with tempfile.TemporaryDirectory(prefix="kivuxl-mutants-") as name:
+            place = pathlib.Path(name)
+            start = time.monotonic()
+            fault = self.fault_noticed(self.linked(None, place), place)
+            if fault:
+                sys.exit("the tests fail without a change: " + fault)
+            took = time.monotonic() - start
+        self.limits = [20 + 5 * took, 20 + 10 * took]
+        return took
+
+    def tried(self, mutant, text):
+        """False when the change does not compile, else how it is noticed, or None."""
+        place = pathlib.Path(tempfile.mkdtemp(prefix="kivuxl-mutants-"))
+        try:
+            changed = text[:mutant.start] + mutant.new + text[mutant.end:]
+            (place / mutant.path.name).write_text(changed, "utf-8")
+            compiled = self.compiled(mutant.path, place)
+            if compiled is None:
+                return False
+            return self.fault_noticed(self.linked(compiled, place), place)
+        finally:
+            shutil.rmtree(place, ignore_errors=True)
+
+
+# -- The whole ------------------------------------------------------------------------------------
+
+
+def try_some(builder, queue, count, texts, survivors, lock):
+    """Takes mutants of one kind until `count` have compiled; the number of those."""
+    made = 0
+    for mutant in queue:
+        result = builder.tried(mutant, texts[mutant.path])
+        if result is False:
+            continue
+        made += 1
+        number, before, after = lines_around(mutant, texts[mutant.path])
+        with lock:
+            print("%-8s %s:%d: %s: %s" % ("ok" if result else "SURVIVED", mutant.path.name, number,
+                                          mutant.kind, result or after.strip()), flush=True)
+            if not result:
+                survivors.append((mutant, number, before, after))
+        if made == count:
+            break
+    return made
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--build", type=pathlib.Path, required=True)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--count", type=int, default=200)
+    parser.add_argument("--jobs", type=int, default=2)
+    parser.add_argument("--only", default="", metavar="TEXT")
+    options = parser.parse_args()
+
+    paths = [path for path in sorted((ROOT / "src").iterdir())
+             if path.suffix in (".cpp", ".y", ".l") and path.name != "main.cpp"
+             and options.only in path.name]
+    texts = {path: path.read_text("utf-8") for path in paths}
+    places = collections.defaultdict(list)
+    for path in paths:
+        for mutant in mutants_of(path, texts[path]):
+            if not is_unseen(mutant, texts[path]):
+                places[mutant.kind].append(mutant)
+    chosen = random.Random(options.seed)
+    for kind in KINDS:
+        chosen.shuffle(places[kind])
+    print("seed %d; %s" % (options.seed, ", ".join(
+        "%d places for %s" % (len(places[kind]), kind) for kind in KINDS)), flush=True)
+
+    builder = Builder(options.build)
+    print("without a change: %.0f s" % builder.calibrate(), flush=True)
+    survivors, lock = [], threading.Lock()
+    with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
+        runs = [pool.submit(try_some, builder, iter(places[kind]),
+                            (options.count + index) // len(KINDS), texts, survivors, lock)
+                for index, kind in enumerate(KINDS)]
+        made = sum(each.result() for each in runs)
+
+    for mutant, number, before, after in sorted(survivors):
+        print("\n%s:%d: %s" % (mutant.path.relative_to(ROOT), number, mutant.kind))
+        for sign, lines in (("-", before), ("+", after)):
+            print("\n".join(sign + line for line in lines.split("\n")))
+    noticed = made - len(survivors)
+    rate = 100 * noticed / made if made else 0
+    print("\n%d of %d changes noticed, %.1f %% (seed %d)" % (noticed, made, rate, options.seed))
+    return 0 if rate >= WANTED_PERCENT else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
