@@ -3,13 +3,36 @@
 
 #include "Driver.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
 #include <clocale>
 #include <cstdlib>
+#include <new>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "Reset.h"
 #include "SourceFiles.h"
+
+// -- Exhaustion of everything but the model's memory --------------------------------------------
+
+static long news_left = -1; // before each operator new fails; -1 = without end
+
+// NOLINTBEGIN(misc-new-delete-overloads)
+void *operator new(std::size_t size) {
+  void *block = news_left == 0 ? nullptr : std::malloc(size == 0 ? 1 : size);
+  if (block == nullptr) {
+    throw std::bad_alloc();
+  }
+  news_left -= news_left > 0 ? 1 : 0;
+  return block;
+}
+void operator delete(void *block) noexcept { std::free(block); }
+void operator delete(void *block, std::size_t) noexcept { std::free(block); }
+// NOLINTEND(misc-new-delete-overloads)
 
 class Driver : public SourceFiles {
 protected:
@@ -201,24 +224,220 @@ TEST_F(Driver, OneProcessRunsManyTranslations) {
   EXPECT_TRUE(std::filesystem::exists("m_uil.adb"));
 }
 
-// Wherever memory runs out, the run ends with a message and leaves nothing half-written.
-TEST_F(Driver, ExhaustionEndsTheRun) {
-  Put("m.uil", "module m\nobject f : XmForm { };\nend module;\n");
-  std::filesystem::create_directory("tmp");
-  setenv("TMPDIR", "tmp", 1);
-  int status = 1;
-  int failures = 0;
-  for (long after = 0; status != 0; after += 53) {
-    std::string errors;
-    AllocFailAfter(after);
-    status = Run({"kivuxl", "m.uil"}, &errors);
-    AllocFailAfter(-1);
-    failures += status;
-    const bool reported = errors.starts_with("kivuxl: ") && errors.ends_with(".\n");
-    EXPECT_TRUE(status == 0 ? errors.empty() : reported) << after << errors;
-    EXPECT_TRUE(std::filesystem::is_empty("tmp"));
+// Something of everything, and a warning.
+static const char *const kRichModule =
+    "module rich version = 'one' names = case_insensitive objects = { XmLabel = gadget; }\n"
+    "value count : 3 << 2; size : 1.5 * 2.0; name : exported 'a' & 'b'; yes : true;\n"
+    "value red : color ('red', foreground); grey : rgb (1, 2, 3);\n"
+    "value colors : color_table (red = 'r', background color = ' ');\n"
+    "value dots : icon (color_table = colors, 'r r', ' r '); bitmap : xbitmapfile ('dots');\n"
+    "value text : compound_string ('one', separate = true) & compound_string ('two');\n"
+    "value fixed : font ('fixed'); set : fontset ('a', 'b'); fonts : font_table (fixed, set);\n"
+    "value key : keysym ('Return'); keys : translation_table ('<Key>a: a()', '<Key>b: b()');\n"
+    "value lines : asciz_table ('a', 'b'); items : compound_string_table (text, text);\n"
+    "value numbers : integer_table (1, 2, 3); wide : wide_character ('w'); top : 9;\n"
+    "value own : argument ('own', integer); happens : reason ('happens');\n"
+    "value class : class_rec_name ('XmForm');\n"
+    "identifier where; procedure plain; told (integer); said (string); makes;\n"
+    "list sizes : arguments { XmNwidth = count; XmNheight = 9; own = 5; };\n"
+    "list calls : callbacks { XmNactivateCallback = procedures { plain; told (1); }; };\n"
+    "object main : XmMainWindow { controls { XmMenuBar { controls { XmCascadeButton {\n"
+    "  arguments { XmNlabelString = text; XmNmnemonic = key; };\n"
+    "  controls { XmPulldownMenu { controls { XmPushButton push; }; }; }; }; }; };\n"
+    "  XmForm inner; user_defined procedure makes { arguments { XmNwidth = 5; }; }; }; };\n"
+    "object push : XmPushButton { arguments { arguments sizes; XmNtranslations = keys; };\n"
+    "  callbacks { callbacks calls; MrmNcreateCallback = procedure said ('x'); }; };\n"
+    "object inner : XmForm { arguments { XmNbackground = red; XmNfontList = fonts; };\n"
+    "  controls { XmList { arguments { XmNitems = items; XmNbackgroundPixmap = dots; }; };\n"
+    "    unmanaged XmLabel { arguments { XmNlabelPixmap = dots; XmNuserData = numbers; }; };\n"
+    "    XmText { arguments { XmNvalueWcs = wide; XmNvalue = name; }; }; }; };\n"
+    "object box : XmFileSelectionDialog { controls { Xm_OK { arguments { XmNleftWidget =\n"
+    "  XmForm inner; }; }; }; };\n"
+    "end module;\n";
+
+static const std::vector<std::string> kRichWords = {
+    "kivuxl", "-v", "list", "-main", "-stub", "-wrap", "-widgets", "record", "rich.uil"};
+
+static const char *const kRichReport =
+    "rich.uil(13): identifier where; procedure plain; told (integer); said (string); makes;\n"
+    " warning: Limitation: no identifiers, where will be ignored\n\n";
+
+static const std::set<std::string> kRichFiles = {"list",
+                                                 "rich.uil",
+                                                 "rich_callbacks.adb",
+                                                 "rich_callbacks.ads",
+                                                 "rich_cbinst.ads",
+                                                 "rich_cbproc.adb",
+                                                 "rich_cbproc.ads",
+                                                 "rich_client_data.adb",
+                                                 "rich_client_data.ads",
+                                                 "rich_main.adb",
+                                                 "rich.ads",
+                                                 "rich_uil.adb",
+                                                 "rich_uil.ads"};
+
+// Runs the rich module with something exhausted after `count` uses; the status.  A run that fails
+// says why, and leaves neither temporary nor half-written files.
+class Exhaustion : public Driver {
+protected:
+  void SetUp() override {
+    Driver::SetUp();
+    std::filesystem::create_directory("tmp");
+    setenv("TMPDIR", "tmp", 1);
   }
-  unsetenv("TMPDIR");
-  EXPECT_GT(failures, 1);
-  EXPECT_TRUE(std::filesystem::exists("m_uil.ads"));
+  void TearDown() override {
+    unsetenv("TMPDIR");
+    Driver::TearDown();
+  }
+
+  static std::set<std::string> Files() {
+    std::set<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(".")) {
+      names.insert(entry.path().filename());
+    }
+    names.erase("tmp");
+    return names;
+  }
+
+  int RunRich(void (*exhaust)(long), long count) {
+    for (const std::string &name : Files()) {
+      std::filesystem::remove(name);
+    }
+    Put("rich.uil", source);
+    std::vector<std::string> words = kRichWords;
+    std::vector<char *> argv;
+    for (std::string &word : words) {
+      argv.push_back(word.data());
+    }
+    argv.push_back(nullptr);
+    int status = -1;
+    errors = ErrorsOf([&] {
+      exhaust(count);
+      status = DriverRun(static_cast<int>(words.size()), argv.data());
+      exhaust(-1);
+    });
+    EXPECT_TRUE(std::filesystem::is_empty("tmp")) << count;
+    if (status == 0) {
+      return status;
+    }
+    EXPECT_EQ(status, 1) << count;
+    const std::set<std::string> present = Files();
+    EXPECT_TRUE(std::includes(kRichFiles.begin(), kRichFiles.end(), present.begin(), present.end()))
+        << count << ": " << testing::PrintToString(present);
+    return status;
+  }
+
+  // The smallest count that is enough.
+  long Needed(void (*exhaust)(long)) {
+    long enough = 1;
+    while (RunRich(exhaust, enough) != 0) {
+      enough *= 2;
+    }
+    for (long step = enough / 2; step > 0; step /= 2) {
+      if (RunRich(exhaust, enough - step) == 0) {
+        enough -= step;
+      }
+    }
+    return enough;
+  }
+
+  std::string source = kRichModule;
+  std::string errors;
+};
+
+TEST_F(Exhaustion, ItIsNotTheModule) {
+  EXPECT_EQ(RunRich(AllocFailAfter, -1), 0);
+  EXPECT_EQ(errors, kRichReport);
+  EXPECT_EQ(Files(), kRichFiles);
+}
+
+static void ExhaustNew(long count) { news_left = count; }
+
+static void ExhaustDescriptors(long count) {
+  rlimit limit{};
+  getrlimit(RLIMIT_NOFILE, &limit);
+  limit.rlim_cur = limit.rlim_max;
+  if (count >= 0) {
+    const int next = dup(STDIN_FILENO);
+    close(next);
+    limit.rlim_cur = static_cast<rlim_t>(next + count);
+  }
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+// The words of the last message.
+static std::string LastMessage(std::string errors) {
+  if (errors.ends_with(".\n")) {
+    errors.resize(errors.size() - 2);
+  }
+  const std::size_t start = errors.rfind('\n') + 1; // npos + 1 is 0
+  constexpr std::string_view kPrefix = "kivuxl: ";
+  return errors.compare(start, kPrefix.size(), kPrefix) == 0 ? errors.substr(start + kPrefix.size())
+                                                             : "(none)";
+}
+
+TEST_F(Exhaustion, ModelMemoryAtEachAllocation) {
+  static const std::set<std::string> kMessages = {
+      "FilesAddPath: Memory allocation error", "FilesOpen: Cannot create flex buffer.",
+      "FilesOpen: Memory allocation failure",  "Out of memory",
+      "PutListing: Memory allocation error",   "StartLiteral: Memory allocation error",
+  };
+  source = "module rich end module;";
+  const long vocabulary = Needed(AllocFailAfter) - 100; // which most of that is
+  source = kRichModule;
+  const long needed = Needed(AllocFailAfter);
+  EXPECT_GT(needed, vocabulary + 500);
+  for (long count = 0; count<needed; count += count> 50 && count < vocabulary ? 29 : 1) {
+    ASSERT_EQ(RunRich(AllocFailAfter, count), 1);
+    ASSERT_TRUE(kMessages.contains(LastMessage(errors))) << count << ": " << errors;
+  }
+}
+
+TEST_F(Exhaustion, OtherMemoryAtEachAllocation) {
+  const long needed = Needed(ExhaustNew);
+  EXPECT_GT(needed, 500);
+  for (long count = 0; count < needed; ++count) {
+    ASSERT_EQ(RunRich(ExhaustNew, count), 1);
+    ASSERT_EQ(LastMessage(errors), "Out of memory") << count << ": " << errors;
+  }
+}
+
+// A text that the scanner complains of is made printable and stored.
+TEST_F(Exhaustion, MemoryOfTheReport) {
+  std::set<std::string> seen;
+  source = "module rich \001\002\003\004\005\006\007\010 end module;";
+  for (long count = 0; count < 200; ++count) {
+    ASSERT_EQ(RunRich(ExhaustNew, count), 1);
+    seen.insert(errors.starts_with("rich.uil(1): ") ? "report" : LastMessage(errors));
+  }
+  seen.erase("Out of memory"); // depends on what earlier runs of the process have left
+  EXPECT_EQ(seen, (std::set<std::string>{"report", "LexicalError: Memory allocation failure"}));
+}
+
+TEST_F(Exhaustion, Descriptors) {
+  const long needed = Needed(ExhaustDescriptors);
+  EXPECT_GT(needed, 4);
+  for (long count = 0; count < needed; ++count) {
+    EXPECT_EQ(RunRich(ExhaustDescriptors, count), 1);
+    EXPECT_EQ(errors, (count == 0 ? "kivuxl: Error opening listing file list.\n" : "") +
+                          std::string(kRichReport) + "kivuxl: Error opening temporary file.\n");
+  }
+}
+
+static void ExhaustFileSize(long size) {
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  limit.rlim_cur = size < 0 ? limit.rlim_max : static_cast<rlim_t>(size);
+  setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+// A file that grows larger than it may is a failed write.  The body of the widgets is by far the
+// largest file, the listing the next.
+TEST_F(Exhaustion, FileSize) {
+  EXPECT_EQ(RunRich(ExhaustFileSize, 10000), 1);
+  EXPECT_EQ(errors, std::string(kRichReport) + "kivuxl: Error writing file \"rich_uil.adb\".\n");
+  EXPECT_EQ(Files(), std::set<std::string>{"rich.uil"});
+  EXPECT_EQ(RunRich(ExhaustFileSize, 1000), 1);
+  EXPECT_EQ(errors, std::string(kRichReport) + "kivuxl: Error writing file \"list\".\n");
+  EXPECT_EQ(Files(), std::set<std::string>{"rich.uil"});
 }
