@@ -763,6 +763,12 @@ TEST_F(Types, CompoundOfManyRuns) {
   EXPECT_EQ(text, static_cast<CompoundStringSegment *>(ListGetFirst(items))->value);
 }
 
+TEST_F(Types, CompoundOfAnEmptyRun) {
+  EXPECT_EQ((Texts{"'' iso_latin1, left to right", "'ab' iso_greek, left to right"}),
+            Show(StringToCompound(StringOfRuns("ab", {{"iso_latin1", 0, 0}, {"iso_greek", 0, 2}}),
+                                  nullptr)));
+}
+
 TEST_F(Types, CompoundOfRunsBeyondTheText) {
   EXPECT_EQ((Texts{"'ab' iso_latin1, left to right", "'' default charset, default direction",
                    "'' iso_greek, left to right"}),
