@@ -115,6 +115,18 @@ TEST_F(Alloc, SizesThatOverflowGiveNull) {
   EXPECT_EQ(AllocLiveBlocks(), 1U);
 }
 
+#ifndef __SANITIZE_ADDRESS__ // which ends the process at such a size
+TEST_F(Alloc, SizesThatTheSystemRefusesGiveNull) {
+  constexpr std::size_t kHalf = SIZE_MAX / 2;
+  EXPECT_EQ(_MAlloc(kHalf), nullptr);
+  void *block = _MAlloc(4);
+  Fill(block, 4, 3);
+  EXPECT_EQ(_MReAlloc(block, kHalf), nullptr);
+  EXPECT_TRUE(IsFilled(block, 4, 3));
+  EXPECT_EQ(AllocLiveBlocks(), 1U);
+}
+#endif
+
 TEST_F(Alloc, SmartMallocRoundsUp) {
   constexpr std::pair<std::size_t, std::size_t> kSizes[] = {
       {0, 12},  {1, 12},  {11, 12}, {12, 12}, {13, 28},    {28, 28},

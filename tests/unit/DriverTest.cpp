@@ -12,6 +12,7 @@
 #include <new>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Reset.h"
@@ -34,6 +35,19 @@ void operator delete(void *block) noexcept { std::free(block); }
 void operator delete(void *block, std::size_t) noexcept { std::free(block); }
 // NOLINTEND(misc-new-delete-overloads)
 
+// The words of a command line, as main gets them.
+struct Arguments {
+  std::vector<std::string> words;
+  std::vector<char *> argv;
+  explicit Arguments(std::vector<std::string> given) : words(std::move(given)) {
+    for (std::string &word : words) {
+      argv.push_back(word.data());
+    }
+    argv.push_back(nullptr);
+  }
+  int Run() { return DriverRun(static_cast<int>(words.size()), argv.data()); }
+};
+
 class Driver : public SourceFiles {
 protected:
   void TearDown() override {
@@ -42,16 +56,10 @@ protected:
   }
 
   // Runs the program with these words and returns its status.
-  static int Run(std::vector<std::string> words, std::string *errors = nullptr) {
-    std::vector<char *> argv;
-    argv.reserve(words.size() + 1);
-    for (std::string &word : words) {
-      argv.push_back(word.data());
-    }
-    argv.push_back(nullptr);
+  static int Run(const std::vector<std::string> &words, std::string *errors = nullptr) {
+    Arguments arguments(words);
     int status = -1;
-    const std::string printed =
-        ErrorsOf([&] { status = DriverRun(static_cast<int>(words.size()), argv.data()); });
+    const std::string printed = ErrorsOf([&] { status = arguments.Run(); });
     if (errors != nullptr) {
       *errors = printed;
     }
@@ -304,16 +312,11 @@ protected:
       std::filesystem::remove(name);
     }
     Put("rich.uil", source);
-    std::vector<std::string> words = kRichWords;
-    std::vector<char *> argv;
-    for (std::string &word : words) {
-      argv.push_back(word.data());
-    }
-    argv.push_back(nullptr);
+    Arguments arguments(kRichWords);
     int status = -1;
     errors = ErrorsOf([&] {
       exhaust(count);
-      status = DriverRun(static_cast<int>(words.size()), argv.data());
+      status = arguments.Run();
       exhaust(-1);
     });
     EXPECT_TRUE(std::filesystem::is_empty("tmp")) << count;
