@@ -379,7 +379,7 @@ static std::string LastMessage(std::string errors) {
                                                              : "(none)";
 }
 
-TEST_F(Exhaustion, ModelMemoryAtEachAllocation) {
+TEST_F(Exhaustion, ModelMemoryAnywhere) {
   static const std::set<std::string> kMessages = {
       "FilesAddPath: Memory allocation error", "FilesOpen: Cannot create flex buffer.",
       "FilesOpen: Memory allocation failure",  "Out of memory",
@@ -396,10 +396,10 @@ TEST_F(Exhaustion, ModelMemoryAtEachAllocation) {
   }
 }
 
-TEST_F(Exhaustion, OtherMemoryAtEachAllocation) {
+TEST_F(Exhaustion, OtherMemoryAnywhere) {
   const long needed = Needed(ExhaustNew);
   EXPECT_GT(needed, 500);
-  for (long count = 0; count < needed; ++count) {
+  for (long count = 0; count < needed; count += 2) {
     ASSERT_EQ(RunRich(ExhaustNew, count), 1);
     ASSERT_EQ(LastMessage(errors), "Out of memory") << count << ": " << errors;
   }
