@@ -42,8 +42,8 @@ KINDS = ("text", "order", "constant", "comparison")
 
 # Tables that are searched for a key which each row has for itself: the order of the rows cannot be
 # seen.
-KEYED_TABLES = {"paired_args", "odd_trans", "kPopupClasses", "kShellSuffixes", "kCopies",
-                "kConversions", "kShellBySuffix", "kShellNameSuffix", "get_child_fn_name",
+KEYED_TABLES = {"paired_args", "odd_trans", "kPopupClasses", "kFamilies", "kShellSuffixes",
+                "kCopies", "kConversions", "kShellBySuffix", "kShellNameSuffix", "get_child_fn_name",
                 "get_child_arg_name"}
 
 # Changes of which nothing can be seen: (source, kind, expression for the lines, without the blanks
@@ -57,6 +57,10 @@ UNSEEN = [
      "the text has the length that was counted before"),
     ("Reset.cpp", "order", r"\w+Reset\(\);\s+(?!Alloc)\w+Reset\(\);",
      "each puts back what is its module's own"),
+    ("ParseLists.cpp", "order", r"WidgetForward\(name, .*;\s+WidgetByName\(result, name\);",
+     "one fills the symbol table, the other the result"),
+    ("ParseObjects.cpp", "order", r"WidgetMaybeTopLevel\(object\);\s+NoteClass\(object->type\);",
+     "each fills a list of its own"),
 ]
 
 # A literal, a comment, a preprocessor line, or any one character.
