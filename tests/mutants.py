@@ -256,7 +256,9 @@ class Builder:
         """How the tests notice that something is wrong, or None."""
         temporary = place / "tmp"
         temporary.mkdir()
-        environment = dict(os.environ, TMPDIR=str(temporary), LC_ALL="C", TZ="UTC")
+        # Memory that has been given back does not keep its contents.
+        environment = dict(os.environ, TMPDIR=str(temporary), LC_ALL="C", TZ="UTC",
+                           MALLOC_PERTURB_="165", GLIBC_TUNABLES="glibc.malloc.tcache_count=0")
         for step, limit in zip(self.STEPS, self.limits):
             status, output = run([str(program), "--gtest_brief=1", "--gtest_fail_fast",
                                   "--gtest_filter=" + step], limit, cwd=place, env=environment)

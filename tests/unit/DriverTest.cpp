@@ -417,6 +417,20 @@ TEST_F(Exhaustion, MemoryOfTheReport) {
   EXPECT_EQ(seen, (std::set<std::string>{"report", "LexicalError: Memory allocation failure"}));
 }
 
+TEST_F(Exhaustion, MemoryOfAnEncodedText) {
+  const std::string text(100, 'x');
+  EXPECT_EQ(ErrorsOf([&] {
+              ExhaustNew(0);
+              try {
+                EncodePrintably(text.data(), static_cast<int>(text.size()));
+              } catch (...) {
+                ExhaustNew(-1);
+                throw;
+              }
+            }),
+            "kivuxl: EncodePrintably: Memory allocation error.\n[exit 1]");
+}
+
 TEST_F(Exhaustion, Descriptors) {
   const long needed = Needed(ExhaustDescriptors);
   EXPECT_GT(needed, 4);

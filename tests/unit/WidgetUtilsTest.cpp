@@ -279,6 +279,7 @@ TEST_F(WidgetUtils, ReferenceToWhatIsNoWidgetIsReportedAndKept) {
   EXPECT_EQ(Reported([&] { controls.reset(WidgetFlatControlsList(widget)); }),
             "kivuxl: Object size is not a widget.\n");
   EXPECT_EQ(Contents(controls), std::vector<void *>{static_cast<void *>(reference)});
+  EXPECT_EQ(Reported([&] { EXPECT_EQ(WidgetResolve(reference), nullptr); }), ""); // said once
 }
 
 // -- Classes and reasons -----------------------------------------------------------------------
