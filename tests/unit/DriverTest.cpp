@@ -220,6 +220,30 @@ TEST_F(Driver, TimeMayBeGiven) {
   unsetenv("SOURCE_DATE_EPOCH");
 }
 
+// Longer than what a stream keeps back, so that nothing may be emptied after the first line.
+TEST_F(Driver, LongListingIsWhole) {
+  constexpr int kLines = 300;
+  constexpr std::size_t kWidth = 79; // of a row on a page 80 wide
+  std::string source;
+  std::string rows;
+  for (int i = 1; i <= kLines; ++i) {
+    const std::string line = i == 1        ? "module m"
+                             : i == kLines ? "end module;"
+                                           : "value v" + std::to_string(i) + " : 1;";
+    source += line + "\n";
+    std::string row = std::to_string(1000000 + i).substr(1) + ": " + line;
+    row.resize(kWidth, ' ');
+    rows += row + "\n";
+  }
+  Put("m.uil", source);
+  std::string errors;
+  EXPECT_EQ(Run({"kivuxl", "-width", "80", "-length", "400", "-v", "list", "m.uil"}, &errors), 0);
+  EXPECT_EQ(errors, "");
+  const std::string text = Contents("list");
+  EXPECT_TRUE(text.starts_with("\n\n\nModule: m "));
+  EXPECT_NE(text.find("Page: 1\n\n\n" + rows + "\n"), std::string::npos) << text;
+}
+
 TEST_F(Driver, OneProcessRunsManyTranslations) {
   Put("m.uil", "module m\nobject f : XmForm { };\nend module;\n");
   for (int i = 0; i < 2; ++i) {
