@@ -55,6 +55,7 @@ UNSEEN = [
      "the text has the length that was counted before"),
     ("Error.cpp", "constant", r"std::vsnprintf\(text.data\(\), text.size\(\) \+ 1, .*",
      "the text has the length that was counted before"),
+    ("Output.cpp", "constant", r"const mode_t mask = umask\(0\);", "the mask is put back at once"),
     ("Reset.cpp", "order", r"\w+Reset\(\);\s+(?!Alloc)\w+Reset\(\);",
      "each puts back what is its module's own"),
     ("ParseLists.cpp", "order", r"WidgetForward\(name, .*;\s+WidgetByName\(result, name\);",
