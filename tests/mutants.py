@@ -46,8 +46,8 @@ KEYED_TABLES = {"paired_args", "odd_trans", "kPopupClasses", "kFamilies", "kShel
                 "kCopies", "kConversions", "kShellBySuffix", "kShellNameSuffix", "get_child_fn_name",
                 "get_child_arg_name"}
 
-# Changes of which nothing can be seen: (source, kind, expression for the lines, without the blanks
-# around them, why).
+# Changes of which nothing can be seen: (source, kind, expression for the lines before or after the
+# change, without the blanks around them, why).
 UNSEEN = [
     ("Hash.cpp", "constant", r"hash \^= hash >> 33;|return static_cast<std::uint32_t>\(hash >> 32\);",
      "any number spreads the names"),
@@ -59,6 +59,9 @@ UNSEEN = [
      "the size is rounded up to 12 in any case"),
     ("AdaWidgetProcs.cpp", "comparison", r"return size > largest - offset \? largest : offset .*",
      "when both sides are equal the sum is the largest number"),
+    ("Listing.cpp", "comparison", r"if \(start < 0\) \{", "nothing is dropped left of column 0"),
+    ("Types.cpp", "comparison", r"return kind > 0 && kind < MAX_TOKENS \? token_types.*",
+     "no type has the number 0"),
     ("Output.cpp", "constant", r"const mode_t mask = umask\(0\);", "the mask is put back at once"),
     ("Reset.cpp", "order", r"\w+Reset\(\);\s+(?!Alloc)\w+Reset\(\);",
      "each puts back what is its module's own"),
@@ -187,9 +190,10 @@ def lines_around(mutant, text):
 
 
 def is_unseen(mutant, text):
-    _, before, _ = lines_around(mutant, text)
+    _, before, after = lines_around(mutant, text)
     return any((mutant.path.name, mutant.kind) == (name, kind) and
-               re.fullmatch(lines, before.strip()) for name, kind, lines, _ in UNSEEN)
+               (re.fullmatch(lines, before.strip()) or re.fullmatch(lines, after.strip()))
+               for name, kind, lines, _ in UNSEEN)
 
 
 # -- Building and running -------------------------------------------------------------------------
