@@ -62,6 +62,8 @@ UNSEEN = [
     ("Listing.cpp", "comparison", r"if \(start < 0\) \{", "nothing is dropped left of column 0"),
     ("Types.cpp", "comparison", r"return kind > 0 && kind < MAX_TOKENS \? token_types.*",
      "no type has the number 0"),
+    ("Options.cpp", "order", r'\{"-\w+", OptionMatch::kExact, .*,\s+\{"-\w+", OptionMatch::kExact, .*',
+     "a word is no two of them"),
     ("Output.cpp", "constant", r"const mode_t mask = umask\(0\);", "the mask is put back at once"),
     ("Reset.cpp", "order", r"\w+Reset\(\);\s+(?!Alloc)\w+Reset\(\);",
      "each puts back what is its module's own"),
