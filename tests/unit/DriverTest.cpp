@@ -422,7 +422,7 @@ TEST_F(Exhaustion, ModelMemoryAnywhere) {
 
 TEST_F(Exhaustion, OtherMemoryAnywhere) {
   const long needed = Needed(ExhaustNew);
-  EXPECT_GT(needed, 500);
+  EXPECT_GT(needed, 100); // less than at first: earlier runs have left room in some texts
   for (long count = 0; count < needed; count += 2) {
     ASSERT_EQ(RunRich(ExhaustNew, count), 1);
     ASSERT_EQ(LastMessage(errors), "Out of memory") << count << ": " << errors;
