@@ -37,8 +37,6 @@ UNSHOWN = {
     ".kivut": "the name of a file that lives for an instant beside a unit",
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-":
         "the letters of such a name",
-    "LexicalError: Memory allocation failure": "when a text of some bytes finds no memory",
-    "EncodePrintably: Memory allocation error": "when a text of some bytes finds no memory",
     "btnvfr": "the letters behind the backslashes, which a unit test shows one by one",
 }
 

@@ -342,7 +342,7 @@ TEST(CaseRunner, MostCasesNeedNoShell) {
   const auto skipped = std::count_if(names.begin(), names.end(),
                                      [](const std::string &name) { return !CommandOf(name); });
   EXPECT_GE(names.size(), 400U);
-  EXPECT_LE(skipped * 20, static_cast<long>(names.size())) << "one in twenty";
+  EXPECT_LE(skipped * 10, static_cast<long>(names.size())) << "one in ten";
 }
 
 TEST(CaseRunner, WordsAreThoseOfAShell) {
