@@ -21,14 +21,16 @@ class Fault:
     line      a pattern for something in the line at fault
     template  the source file and the opening words of the template that cause it
     mend      what makes it right, a function from text to text; None where only the user can
+    in_cases  whether a case or an example has it; otherwise only limits/ does
     """
 
-    def __init__(self, name, message, template, line="", mend=None):
+    def __init__(self, name, message, template, line="", mend=None, in_cases=True):
         self.name = name
         self.message = re.compile(message)
         self.line = re.compile(line, re.I)
         self.template = template
         self.mend = mend
+        self.in_cases = in_cases
 
     def explains(self, error):
         return bool(self.message.fullmatch(error.message) and self.line.search(error.text))
@@ -141,4 +143,6 @@ FAULTS = (
     Fault("verbose-to-standard-output", 'compilation unit expected|misplaced "with"',
           ("Driver.cpp", '"Kivu UIL Translator version %s.'), line="^Kivu UIL|^with ",
           mend=_replace(r"(?m)^Kivu UIL.*\n", "")),
+    Fault("names-that-are-ada-words", 'reserved word ".*" cannot be used as identifier|.*',
+          ("AdaCallbacks.cpp", '"package body %s is\\n"'), line=r"\b(accept)\b", in_cases=False),
 )

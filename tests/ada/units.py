@@ -8,11 +8,13 @@ first, and each unit is compiled in a folder of its own together with the units 
 that it depends on: the texts, the packages of ada/, the compiler and its options.
 """
 
+import fcntl
 import hashlib
 import json
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import tempfile
 
@@ -199,13 +201,14 @@ MOST_ROUNDS = 6  # a syntax fault hides others, so mending goes in rounds
 class Outcome:
     """What came of one unit."""
 
-    def __init__(self):
+    def __init__(self, units):
+        self.units = units  # as compiled last
         self.met = set()  # names of the known faults
         self.mended = True  # whether it compiled in the end
         self.unknown = []  # errors that no known fault explains
 
 
-def _mend(units, faults):
+def mend(units, faults):
     """The units without some faults."""
     for fault in faults:
         if fault.mend is not None:
@@ -227,8 +230,8 @@ def examine(compiler, units, root, mode, known):
     A fault can hide others, of this unit and of those that depend on it: what stays hidden is only
     what stands beside a fault that cannot be mended.
     """
-    outcome = Outcome()
     units = with_needed(units, root)
+    outcome = Outcome(units)
     for _ in range(MOST_ROUNDS):
         errors = compiler.compile(units, root, mode)
         if not errors:
@@ -243,10 +246,41 @@ def examine(compiler, units, root, mode, known):
         outcome.met.update(fault.name for fault in found)
         if outcome.unknown:
             break
-        mended = _mend(units, found)
+        mended = mend(units, found)
         root = _same_root(mended, root, units)
         if root is None or mended == units:
             break
-        units = mended
+        outcome.units = units = mended
     outcome.mended = False
     return outcome
+
+
+# -- Programs -------------------------------------------------------------------------------------
+
+
+def kit_objects(cache):
+    """A folder with the packages of ada/, compiled."""
+    cache = pathlib.Path(cache)
+    cache.mkdir(parents=True, exist_ok=True)
+    digest = Compiler(cache / "answers").base.hexdigest()
+    kit = cache / f"kit-{digest[:16]}"
+    with open(cache / "lock", "w", encoding="ascii") as lock:
+        fcntl.flock(lock, fcntl.LOCK_EX)
+        if not kit.exists():
+            for old in cache.glob("kit-*"):
+                shutil.rmtree(old)
+            unfinished = pathlib.Path(tempfile.mkdtemp(dir=cache, prefix="kit-"))
+            for source in KIT.glob("*.ad[bs]"):
+                shutil.copy(source, unfinished)
+            subprocess.run(["gnatmake", "-q", "-c", *sorted(KIT_UNITS)], cwd=unfinished, check=True)
+            unfinished.rename(kit)
+    return kit
+
+
+def build(units, main, kit, folder):
+    """Makes a program in a folder; what the compiler or the linker says when it cannot be made."""
+    for name, text in units.items():
+        pathlib.Path(folder, name).write_text(text, encoding=ENCODING)
+    done = subprocess.run(["gnatmake", "-q", f"-I{kit}", main], cwd=folder, capture_output=True,
+                          encoding=ENCODING, timeout=LIMIT, check=False)
+    return done.stderr + done.stdout if done.returncode != 0 else ""

@@ -1,0 +1,139 @@
+#!/usr/bin/env python3
+"""Shows each limit of the generated Ada that doc/limits.md tells of, and the way round it.
+
+    tests/ada/check_limits.py --program build/kivuxl --cache build/ada-limits
+
+A folder of limits/ is named after the limit and holds
+
+    shows.uil       a module that meets the limit; the module's name is `limit`
+    way-round.uil   one that says the same and does not, where there is such a way
+    options         the translator's options, "-gnat -stub -wrap -main" when absent
+    shows.stderr    what the translator says; or
+    shows.says      what the program `look` prints when run; or neither, and GNAT refuses the text
+    way-round.says  what `look` prints with the other module; otherwise all its units must compile
+    *.adb           own units that take the place of generated ones; those in a folder way-round/
+                    belong to the other module only
+    faults          other entries of exceptions.py that the module meets beside its own
+
+A limit of the third kind has its name from exceptions.py, whose entry says how GNAT refuses it; and
+nothing else may be refused. Programs run on an X server without a screen; a last line "status N"
+tells of one that ends otherwise than with 0. `limits/screen.ads` is there for all of them.
+"""
+
+import argparse
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+
+import exceptions
+import units as ada
+from check_creation import run_with_server
+
+HERE = pathlib.Path(__file__).resolve().parent
+LIMITS = HERE / "limits"
+DOCUMENT = ada.ROOT / "doc" / "limits.md"
+OPTIONS = "-gnat -stub -wrap -main"
+
+
+def read(path, default=""):
+    return path.read_text(encoding="utf-8") if path.exists() else default
+
+
+def translate(program, limit, module):
+    """The mode, the units and the messages of one module."""
+    options = read(limit / "options", OPTIONS).split()
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        shutil.copy(limit / f"{module}.uil", folder / "limit.uil")
+        done = subprocess.run([program, *options, "limit.uil"], cwd=folder, capture_output=True,
+                              encoding=ada.ENCODING, env={**os.environ, "LC_ALL": "C"}, check=False)
+        texts = [path.read_text(encoding=ada.ENCODING)
+                 for path in sorted(folder.iterdir()) if path.name != "limit.uil"]
+    units = ada.divide_all([*texts, done.stdout])
+    for own in (*LIMITS.glob("*.ad[bs]"), *limit.glob("*.ad[bs]"), *limit.glob(f"{module}/*.ad[bs]")):
+        units[own.name] = own.read_text(encoding=ada.ENCODING)
+    mode = ada.ADA_95 if {"-gnat", "-ada95"} & set(options) else ada.ADA_83
+    return mode, units, done.stderr
+
+
+def refused(compiler, mode, units):
+    """The names of the faults that GNAT finds, and complaints about what is no known fault."""
+    met, complaints = set(), []
+    for root in ada.roots(units):
+        outcome = ada.examine(compiler, units, root, mode, exceptions.FAULTS)
+        met |= outcome.met
+        complaints += map(str, outcome.unknown)
+    return met, complaints
+
+
+def seen(units, kit):
+    """What the program `look` prints, or why there is none."""
+    with tempfile.TemporaryDirectory() as folder:
+        if complaint := ada.build(units, "look", kit, folder):
+            return complaint
+        try:
+            return "\n".join(run_with_server(os.path.join(folder, "look"))) + "\n"
+        except subprocess.CalledProcessError as error:
+            status = error.returncode if error.returncode > 0 else signal.Signals(-error.returncode).name
+            return f"{error.stdout}status {status}\n"
+
+
+def compare(what, expected, actual):
+    return [] if expected == actual else [f"{what}: expected\n{expected}but got\n{actual}"]
+
+
+def check_module(program, tools, limit, module, expected):
+    """The complaints about one module; `expected` are the faults that it must have."""
+    compiler, kit = tools
+    mode, units, said = translate(program, limit, module)
+    complaints = compare(f"{module}: messages", read(limit / f"{module}.stderr"), said)
+    if (says := limit / f"{module}.says").exists():
+        return complaints + compare(module, read(says), seen(units, kit))
+    if (limit / f"{module}.stderr").exists():
+        return complaints
+    own = {name: text for name, text in units.items() if not (LIMITS / name).exists()}
+    met, unknown = refused(compiler, mode, own)
+    complaints += [f"{module}: {text}" for text in unknown]
+    return complaints + compare(f"{module}: faults", f"{sorted(expected)}\n", f"{sorted(met)}\n")
+
+
+def check_limit(program, tools, limit):
+    known = {fault.name for fault in exceptions.FAULTS}
+    faults = set(read(limit / "faults").split()) | {limit.name} & known
+    complaints = check_module(program, tools, limit, "shows", faults)
+    if not any((limit / f"shows.{end}").exists() for end in ("says", "stderr")):
+        if limit.name not in known:
+            complaints.append("exceptions.py has no such entry")
+    if (limit / "way-round.uil").exists():
+        complaints += check_module(program, tools, limit, "way-round", set())
+    if f"tests/ada/limits/{limit.name}/" not in read(DOCUMENT):
+        complaints.append("doc/limits.md does not tell of it")
+    return [f"{limit.name}: {complaint}" for complaint in complaints]
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--program", required=True, help="the translator")
+    parser.add_argument("--cache", required=True, help="a folder that keeps the compiler's answers")
+    parser.add_argument("limits", nargs="*", help="names of limits; all of them when absent")
+    options = parser.parse_args()
+    program = str(pathlib.Path(options.program).resolve())
+    cache = pathlib.Path(options.cache).resolve()
+    tools = ada.Compiler(cache / "answers"), ada.kit_objects(cache)
+    limits = sorted(path for path in LIMITS.iterdir() if path.is_dir() and
+                    (not options.limits or path.name in options.limits))
+    complaints = [text for limit in limits for text in check_limit(program, tools, limit)]
+    names = {limit.name for limit in limits}
+    if not options.limits:
+        complaints += [f"limits/ does not show {fault.name}" for fault in exceptions.FAULTS
+                       if fault.name not in names]
+    print("\n".join(complaints) or f"{len(limits)} limits shown")
+    return 1 if complaints else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
