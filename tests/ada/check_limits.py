@@ -13,7 +13,8 @@ A folder of limits/ is named after the limit and holds
     way-round.says  what `look` prints with the other module; otherwise all its units must compile
     *.adb           own units that take the place of generated ones; those in a folder way-round/
                     belong to the other module only
-    faults          other entries of exceptions.py that the module meets beside its own
+    faults          other entries of exceptions.py that the module meets beside its own; they are
+                    mended before a program is made
 
 A limit of the third kind has its name from exceptions.py, whose entry says how GNAT refuses it; and
 nothing else may be refused. Programs run on an X server without a screen; a last line "status N"
@@ -92,6 +93,8 @@ def check_module(program, tools, limit, module, expected):
     mode, units, said = translate(program, limit, module)
     complaints = compare(f"{module}: messages", read(limit / f"{module}.stderr"), said)
     if (says := limit / f"{module}.says").exists():
+        faults = read(limit / "faults").split()
+        units = ada.mend(units, [fault for fault in exceptions.FAULTS if fault.name in faults])
         return complaints + compare(module, read(says), seen(units, kit))
     if (limit / f"{module}.stderr").exists():
         return complaints
