@@ -114,6 +114,9 @@ def with_needed(units, root):
 
 # -- Compiling ------------------------------------------------------------------------------------
 
+# What ends a row for the compiler.
+_ROW_END = re.compile("\r\n|[\n\r\v\f]")
+
 # Checks only; one line a message, however long; no warnings.
 COMMAND = ("gcc", "-c", "-x", "ada", "-gnatc", "-gnatws", "-gnatj9999")
 
@@ -187,7 +190,7 @@ def _errors(said, units, root):
         places.add(match.groups()[:3])
         file, row, _, message = match.groups()
         file = file.removeprefix("./").replace("_slash_", "/")
-        rows = units.get(file, "").split("\n")
+        rows = _ROW_END.split(units.get(file, ""))
         text = rows[int(row) - 1] if int(row) <= len(rows) else ""
         errors.append(Error(file, int(row), message, text))
     return errors or ([Error(root, 1, said, "")] if said else [])
