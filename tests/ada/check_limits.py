@@ -12,7 +12,7 @@ A folder of limits/ is named after the limit and holds
     shows.says      what the program `look` prints when run; otherwise GNAT refuses the text
     way-round.says  what `look` prints with the other module; otherwise all its units must compile
     *.adb           own units that take the place of generated ones; those in a folder way-round/
-                    belong to the other module only
+                    belong to the other module only, and so does a file of options
     faults          other entries of exceptions.py that the module meets beside its own; they are
                     mended before a program is made
 
@@ -46,7 +46,7 @@ def read(path, default=""):
 
 def translate(program, limit, module):
     """The mode, the units and the messages of one module."""
-    options = read(limit / "options", OPTIONS).split()
+    options = read(limit / module / "options", read(limit / "options", OPTIONS)).split()
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
         shutil.copy(limit / f"{module}.uil", folder / "limit.uil")

@@ -59,6 +59,11 @@ def _first_end(text, position):
     return len(text), False
 
 
+def file_name(unit):
+    """The name of a unit's file without its suffix; a child unit has a point in its name."""
+    return unit.lower().replace(".", "-")
+
+
 def divide(text):
     """The units of a text, by the names of the files that GNAT looks for."""
     units, position = {}, 0
@@ -66,7 +71,8 @@ def divide(text):
         end, has_body = _first_end(text, start.end())
         kind, name = start.groups()
         is_body = kind == "package body" or (kind in ("procedure", "function") and has_body)
-        units[name.lower() + (".adb" if is_body else ".ads")] = text[position:end].strip("\n") + "\n"
+        units[file_name(name) + (".adb" if is_body else ".ads")] = \
+            text[position:end].strip("\n") + "\n"
         position = end
     return units
 
@@ -80,8 +86,8 @@ def divide_all(texts):
 
 
 def named_units(text):
-    """The names in the context clauses of a unit, lower case."""
-    return [name.strip().lower() for names in _WITH.findall(text) for name in names.split(",")]
+    """The names in the context clauses of a unit, as of files."""
+    return [file_name(name.strip()) for names in _WITH.findall(text) for name in names.split(",")]
 
 
 def missing_units(units):
@@ -106,6 +112,7 @@ def with_needed(units, root):
         needed[name] = units[name]
         if name.endswith(".adb"):
             todo.append(name[:-1] + "s")
+        todo.append(name.rpartition("-")[0] + ".ads")
         for other in named_units(units[name]):
             # A procedure without a specification of its own is its body.
             todo.append(other + (".ads" if other + ".ads" in units else ".adb"))
