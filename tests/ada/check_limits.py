@@ -17,15 +17,15 @@ A folder of limits/ is named after the limit and holds
                     mended before a program is made
 
 A limit of the last kind has its name from exceptions.py, whose entry says how GNAT refuses it; and
-nothing else may be refused. Programs run on an X server without a screen; a last line "status N"
+nothing else may be refused. doc/limits.md must have a message that is seen under its heading. Programs run on an X server without a screen; a last line "status N"
 tells of one that ends otherwise than with 0. `limits/screen.ads` is there for all of them.
 """
 
 import argparse
 import os
 import pathlib
+import re
 import shutil
-import signal
 import subprocess
 import sys
 import tempfile
@@ -55,20 +55,45 @@ def translate(program, limit, module):
         texts = [path.read_text(encoding=ada.ENCODING)
                  for path in sorted(folder.iterdir()) if path.name != "limit.uil"]
     units = ada.divide_all([*texts, done.stdout])
-    for own in (*LIMITS.glob("*.ad[bs]"), *limit.glob("*.ad[bs]"), *limit.glob(f"{module}/*.ad[bs]")):
-        units[own.name] = own.read_text(encoding=ada.ENCODING)
+    for folder in (LIMITS, limit, limit / module):
+        units.update((own.name, own.read_text(encoding=ada.ENCODING))
+                     for own in folder.glob("*.ad[bs]"))
     mode = ada.ADA_95 if {"-gnat", "-ada95"} & set(options) else ada.ADA_83
     return mode, units, done.stderr
 
 
 def refused(compiler, mode, units):
     """The names of the faults that GNAT finds, and complaints about what is no known fault."""
-    met, complaints = set(), []
-    for root in ada.roots(units):
-        outcome = ada.examine(compiler, units, root, mode, exceptions.FAULTS)
-        met |= outcome.met
-        complaints += map(str, outcome.unknown)
-    return met, complaints
+    outcomes = [ada.examine(compiler, units, root, mode, exceptions.FAULTS)
+                for root in ada.roots(units)]
+    return (set().union(*(outcome.met for outcome in outcomes)),
+            [str(error) for outcome in outcomes for error in outcome.unknown],
+            set().union(*(outcome.messages for outcome in outcomes)))
+
+
+def told(limit):
+    """The messages that the document has under a limit's heading; None when it has no heading."""
+    _, heading, section = read(DOCUMENT).partition(f": `tests/ada/limits/{limit.name}/`\n")
+    section = re.split(r"(?m)^##", section)[0]
+    return re.findall(r"(?m)^    (.*)$", section) if heading else None
+
+
+def same_but_for_numbers(line, lines):
+    def plain(text):
+        return re.sub(r"\d+", "0", text)
+    return plain(line) in {plain(other) for other in lines}
+
+
+def check_told(limit, lines):
+    """Complaints about messages in the document, of which `lines` must have one."""
+    messages = told(limit)
+    if messages is None:
+        return ["doc/limits.md does not tell of it"]
+    wrong = [message for message in messages for fault in exceptions.FAULTS
+             if fault.name == limit.name and not fault.message.fullmatch(message)]
+    if lines and not any(same_but_for_numbers(message, lines) for message in messages):
+        wrong += ["doc/limits.md has none of the messages: " + "; ".join(sorted(lines))]
+    return wrong
 
 
 def seen(units, kit):
@@ -79,8 +104,7 @@ def seen(units, kit):
         try:
             return "\n".join(run_with_server(os.path.join(folder, "look"))) + "\n"
         except subprocess.CalledProcessError as error:
-            status = error.returncode if error.returncode > 0 else signal.Signals(-error.returncode).name
-            return f"{error.stdout}status {status}\n"
+            return f"{error.stdout}status {error.returncode}\n"
 
 
 def compare(what, expected, actual):
@@ -88,33 +112,33 @@ def compare(what, expected, actual):
 
 
 def check_module(program, tools, limit, module, expected):
-    """The complaints about one module; `expected` are the faults that it must have."""
+    """The complaints about one module, which must have the expected faults, and its messages."""
     compiler, kit = tools
     mode, units, said = translate(program, limit, module)
     complaints = compare(f"{module}: messages", read(limit / f"{module}.stderr"), said)
     if (says := limit / f"{module}.says").exists():
         faults = read(limit / "faults").split()
         units = ada.mend(units, [fault for fault in exceptions.FAULTS if fault.name in faults])
-        return complaints + compare(module, read(says), seen(units, kit))
+        return complaints + compare(module, read(says), seen(units, kit)), set()
     if not expected and (limit / f"{module}.stderr").exists():
-        return complaints
+        return complaints, {line.strip() for line in said.splitlines()}
     own = {name: text for name, text in units.items() if not (LIMITS / name).exists()}
-    met, unknown = refused(compiler, mode, own)
+    met, unknown, messages = refused(compiler, mode, own)
     complaints += [f"{module}: {text}" for text in unknown]
-    return complaints + compare(f"{module}: faults", f"{sorted(expected)}\n", f"{sorted(met)}\n")
+    complaints += compare(f"{module}: faults", f"{sorted(expected)}\n", f"{sorted(met)}\n")
+    return complaints, messages
 
 
 def check_limit(program, tools, limit):
     known = {fault.name for fault in exceptions.FAULTS}
     faults = set(read(limit / "faults").split()) | {limit.name} & known
-    complaints = check_module(program, tools, limit, "shows", faults)
+    complaints, messages = check_module(program, tools, limit, "shows", faults)
+    complaints += check_told(limit, messages)
     if (not any((limit / f"shows.{end}").exists() for end in ("says", "stderr")) and
             limit.name not in known):
         complaints.append("exceptions.py has no such entry")
     if (limit / "way-round.uil").exists():
-        complaints += check_module(program, tools, limit, "way-round", set())
-    if f"tests/ada/limits/{limit.name}/" not in read(DOCUMENT):
-        complaints.append("doc/limits.md does not tell of it")
+        complaints += check_module(program, tools, limit, "way-round", set())[0]
     return [f"{limit.name}: {complaint}" for complaint in complaints]
 
 

@@ -68,7 +68,8 @@ class CheckUnits(unittest.TestCase):
                                       '  m.ads:3: "Widget" is undefined\n    w : Widget;'])
 
     def test_a_failure_behind_a_known_one_is_noticed(self):
-        hidden = "package m is\n  t : constant string := \"a\" & ASCII.LF );\n  w : Widget;\nend m;\n"
+        hidden = ("package m is\n  t : constant string := \"a\" & ASCII.LF );\n"
+                  "  w : Widget;\nend m;\n")
         known = next(fault for fault in exceptions.FAULTS if fault.name == "translation-table")
         complaints, _ = self.check(hidden, known=[known])
         self.assertEqual(complaints, ['case-0: m.ads (-gnat83), beside translation-table\n'

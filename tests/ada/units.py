@@ -1,4 +1,4 @@
-"""Generated Ada as the compiler takes it: files divided into units, compiled, mended, compiled again.
+"""Generated Ada as the compiler takes it: divided into units, compiled, mended, compiled again.
 
 The tests of this folder share it. A run of the translator leaves files whose names follow from its
 options; GNAT wants one unit a file, named after the unit. So what was written is divided into units
@@ -191,11 +191,14 @@ def _errors(said, units, root):
     for line in said.splitlines():
         match = _MESSAGE.fullmatch(line)
         # Further words about the same place are explanations.
-        if (not match or match.groups()[:3] in places or
-                match.group(4).startswith("possible misspelling")):
+        if not match or match.groups()[:3] in places:
             continue
         places.add(match.groups()[:3])
         file, row, _, message = match.groups()
+        # Guesses stand behind the message or in a line of their own.
+        message = re.split(r"(?:^|, )possible misspelling of", message)[0]
+        if not message:
+            continue
         file = file.removeprefix("./").replace("_slash_", "/")
         rows = _ROW_END.split(units.get(file, ""))
         text = rows[int(row) - 1] if int(row) <= len(rows) else ""
@@ -215,6 +218,7 @@ class Outcome:
         self.units = units  # as compiled last
         self.met = set()  # names of the known faults
         self.mended = True  # whether it compiled in the end
+        self.messages = set()  # of the compiler, about known faults and others
         self.unknown = []  # errors that no known fault explains
 
 
@@ -246,6 +250,7 @@ def examine(compiler, units, root, mode, known):
         errors = compiler.compile(units, root, mode)
         if not errors:
             return outcome
+        outcome.messages.update(error.message for error in errors)
         found = []
         for error in errors:
             fault = next((fault for fault in known if fault.explains(error)), None)
