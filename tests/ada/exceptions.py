@@ -129,7 +129,7 @@ FAULTS = (
           line=r"package  is|renames u?_uil|^ *: XtR5\.Widget|^  end record|\. := self"),
     Fault("names-from-options",
           '(identifier|digit|statement) expected.*|missing .*|".*" expected.*|file ".*" not found|'
-          r"\(Ada 83\) child units not allowed", ("AdaWidgets.cpp", '"package %s is\\n"'),
+          r"\(Ada 83\) child units not allowed|binary operator expected", ("AdaWidgets.cpp", '"package %s is\\n"'),
           line=r"(^|\s)(?=\S*[-/%\"]|\d)[\w/%\"-]+($|[.;]| is\b)|^with \w+\.\w"),
     Fault("unknown-class", '".*class" not declared in "Xm1_2_2"',
           ("AdaClassRecName.cpp", '? "class" : "widgetclass"'),
@@ -152,6 +152,8 @@ FAULTS = (
     Fault("names-with-digit-first",
           "identifier may not start with digit|numeric literal cannot start with point",
           ("WidgetUtils.cpp", "std::string LegalName("), line=r"^ *\d\w* : XtR5|\.\d\w* := "),
+    Fault("long-line", "this line is (longer than 32766 characters|too long)",
+          ("AdaString.cpp", "std::string string_value_expr("), line=r".{32766}"),
     # Apex's pragma; GNAT has one of the same name that takes other words.
     Fault("apex-pragma", '"c" is not visible', ("AdaWidgets.cpp", '"export_procedure"'),
           line=r"pragma export_procedure\(c, ", mend=_replace("export_procedure", "export")),
