@@ -59,10 +59,11 @@ def example_runs(top, folder):
 
 
 def case_runs(folder):
+    folders = {path.name: path for path in folder.iterdir() if path.is_dir()}
+    for name in WITHOUT_A_UNIT:
+        del folders[name]
     runs = []
-    for path in sorted(path for path in folder.iterdir() if path.is_dir()):
-        if path.name in WITHOUT_A_UNIT:
-            continue
+    for _, path in sorted(folders.items()):
         case = run_case.Case(str(path))
         runs.append(types.SimpleNamespace(name=path.name, folder=case.folder,
                                           environment=case.environment, command=case.command))
