@@ -13,7 +13,6 @@
 
 #include <array>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +21,7 @@
 #include "AdaMain.h"
 #include "AdaWidgetProcs.h"
 #include "AdaWidgets.h"
+#include "Emit.h"
 #include "Error.h"
 #include "Filename.h"
 #include "Files.h"
@@ -331,13 +331,9 @@ static bool IsGroupRefused(const UnitGroup &group) {
 
 // -- Writing -----------------------------------------------------------------------------------
 
-// The system takes 30 MB in a sixteenth of the calls that the library's own buffers would make.
-using StreamBuffer = std::array<char, 65536>;
-
 // Whatever happens, no stream stays open and no temporary file behind.
 struct OutputSlots {
   std::array<OutputSlot, kSlots> slots;
-  std::array<std::unique_ptr<StreamBuffer>, kSlots> buffers;
   OutputSlots() = default;
   ~OutputSlots() {
     for (OutputSlot &slot : slots) {
@@ -359,9 +355,7 @@ static bool OpenSlot(const UnitGroup &group, SlotNumber number, OutputSlots *ope
                         &slot->stream) == 0) {
     return false;
   }
-  open->buffers[number].reset(new StreamBuffer); // not cleared
-  static_cast<void>(
-      std::setvbuf(slot->stream, open->buffers[number]->data(), _IOFBF, sizeof(StreamBuffer)));
+  EmitHold(slot->stream);
   return true;
 }
 

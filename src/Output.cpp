@@ -25,6 +25,7 @@
 
 #include "Alloc.h"
 #include "Ascii.h"
+#include "Emit.h"
 #include "Error.h"
 #include "Files.h"
 #include "Options.h"
@@ -166,6 +167,7 @@ int OutputClose(OutputSlot *slot, const std::string &final_name) {
   if (slot->stream == nullptr || slot->stream == stdout) {
     return 1;
   }
+  EmitRelease(slot->stream);
   const bool failed = std::ferror(slot->stream) != 0;
   const bool closed = std::fclose(slot->stream) == 0;
   slot->stream = nullptr;
@@ -178,6 +180,7 @@ int OutputClose(OutputSlot *slot, const std::string &final_name) {
 
 void OutputDiscard(OutputSlot *slot) {
   if (slot->stream != nullptr && slot->stream != stdout) {
+    EmitRelease(slot->stream);
     std::fclose(slot->stream);
   }
   slot->stream = nullptr;

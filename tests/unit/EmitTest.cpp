@@ -2,6 +2,7 @@
 
 #include "Emit.h"
 
+#include <array>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
@@ -23,6 +24,21 @@ struct MemoryStream {
   std::string Text() {
     std::fclose(stream);
     return {bytes, size};
+  }
+};
+
+// A stream in a file, for a stream in memory cannot do without its buffer.
+struct TemporaryStream {
+  std::FILE *stream = std::tmpfile();
+  TemporaryStream() = default;
+  TemporaryStream(const TemporaryStream &) = delete;
+  TemporaryStream &operator=(const TemporaryStream &) = delete;
+  ~TemporaryStream() { std::fclose(stream); }
+  std::string Text() {
+    std::string text(static_cast<std::size_t>(std::ftell(stream)), '\0');
+    std::rewind(stream);
+    text.resize(std::fread(text.data(), 1, text.size(), stream));
+    return text;
   }
 };
 
@@ -56,5 +72,38 @@ TEST(Emit, TextsOfEveryLengthStayWholeAndInOrder) {
     MemoryStream memory;
     Emit(memory.stream, "a%sb%d%sc", text.c_str(), 5, text.c_str());
     EXPECT_EQ(memory.Text(), "a" + text + "b5" + text + "c") << length;
+  }
+}
+
+TEST(Emit, NumbersArePaddedAsTheLibraryDoes) {
+  MemoryStream memory;
+  Emit(memory.stream, "%3u,%3u,%3u,%3u,%3u,%3u%s", 0U, 9U, 10U, 99U, 100U, UINT_MAX, ".");
+  EXPECT_EQ(memory.Text(), "  0,  9, 10, 99,100,4294967295.");
+}
+
+TEST(Emit, AHeldStreamGetsItsTextInOrderAtRelease) {
+  TemporaryStream held;
+  MemoryStream other;
+  EmitHold(held.stream);
+  const std::string text(40000, 'x');
+  const std::string longest(70000, 'y');
+  Emit(held.stream, "a%sb%s", text.c_str(), text.c_str());
+  Emit(other.stream, "between");
+  Emit(held.stream, "c%sd%.1f", longest.c_str(), 0.5);
+  EmitRelease(held.stream);
+  Emit(held.stream, "e");
+  EXPECT_EQ(held.Text(), "a" + text + "b" + text + "c" + longest + "d0.5e");
+  EXPECT_EQ(other.Text(), "between");
+}
+
+TEST(Emit, MoreStreamsThanBuffersAreWrittenAsWell) {
+  std::array<TemporaryStream, 7> units;
+  for (TemporaryStream &unit : units) {
+    EmitHold(unit.stream);
+  }
+  for (TemporaryStream &unit : units) {
+    Emit(unit.stream, "unit %d", 1);
+    EmitRelease(unit.stream);
+    EXPECT_EQ(unit.Text(), "unit 1");
   }
 }
