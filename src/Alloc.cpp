@@ -2,13 +2,15 @@
 // small block has no header: it lies in a page of 32 KiB among blocks of its own size.  A page
 // stands at a multiple of its size, so the page, and with it the size, is found from the block's
 // address. What has no place in a page has one of its own, as long as needed.  All pages form a
-// doubly linked ring, by which AllocReset gives everything back.  Against malloc with a ring of all
-// blocks this takes 10,000 widgets from 33 to 23 MB.
+// doubly linked ring, runs of pages by their first, by which AllocReset gives everything back.
+// Against malloc with a ring of all blocks this takes 10,000 widgets from 33 to 23 MB.
 //
 // Under the address sanitizer everything in a page but the live blocks is poisoned, blocks stand 16
 // bytes apart at least, and none is used a second time.
 
 #include "Alloc.h"
+
+#include <sys/mman.h>
 
 #include <algorithm>
 #include <array>
@@ -42,6 +44,7 @@ constexpr std::size_t kMallocHeader =
 constexpr std::size_t kUnit = 8; // sizes of small blocks are multiples of this
 constexpr std::size_t kLargestSmall = 1024; // longer blocks get a page of their own
 constexpr std::size_t kRedZone = kSanitized ? 16 : 0;
+constexpr std::size_t kRunPages = kSanitized ? 1 : 16; // pages that are asked for together
 
 // Stands in front of the blocks of a page, which keep its alignment.
 struct alignas(64) PageHeader {
@@ -64,6 +67,9 @@ struct SizeClass {
 
 PageHeader ring = {&ring, &ring, 0};
 std::array<SizeClass, kLargestSmall / kUnit + 1> classes;
+char *run_next = nullptr; // the pages of the newest run that are not in use
+char *run_end = nullptr;
+bool run_is_first = true;
 std::size_t live_blocks = 0;
 long allocations_left = -1; // before each one fails; -1 = without end
 std::size_t failures = 0;
@@ -94,6 +100,36 @@ static void PageFree(PageHeader *page) {
   std::free(page);
 }
 
+// Pages of small blocks come in runs, of which the first page stands in the ring for all.  From the
+// second run on the system is asked for all the memory at once: touched one by one, 5,000 pages of
+// the system cost 10,000 widgets a tenth of their time.
+static bool RunCreate() {
+  PageHeader *first = PageCreate(kRunPages * kPageSize - kMallocHeader - sizeof(PageHeader), 0);
+  if (first == nullptr) {
+    return false;
+  }
+  run_next = reinterpret_cast<char *>(first);
+  run_end = run_next + kRunPages * kPageSize;
+  if (!run_is_first && !kSanitized) {
+    // Refused by an old system, which then gives the memory as before.
+    static_cast<void>(madvise(run_next, kRunPages * kPageSize, MADV_POPULATE_WRITE));
+  }
+  run_is_first = false;
+  return true;
+}
+
+static PageHeader *SmallPageCreate(std::size_t block_size) {
+  if (run_next == run_end && !RunCreate()) {
+    return nullptr;
+  }
+  const bool starts_run = run_end - run_next == static_cast<std::ptrdiff_t>(kRunPages * kPageSize);
+  auto *page = starts_run ? reinterpret_cast<PageHeader *>(run_next)
+                          : new (run_next) PageHeader{nullptr, nullptr, 0};
+  page->size = block_size;
+  run_next += kPageSize;
+  return page;
+}
+
 static PageHeader *PageOf(void *block) {
   const auto address = reinterpret_cast<std::uintptr_t>(block);
   return reinterpret_cast<PageHeader *>(address & ~(kPageSize - 1));
@@ -108,7 +144,7 @@ static std::size_t SmallSize(std::size_t size) {
 static void *TakeFresh(SizeClass *blocks, std::size_t size) {
   const std::size_t step = size + kRedZone;
   if (static_cast<std::size_t>(blocks->end - blocks->fresh) < step) {
-    PageHeader *page = PageCreate(kPageSize - kMallocHeader - sizeof(PageHeader), size);
+    PageHeader *page = SmallPageCreate(size);
     if (page == nullptr) {
       return nullptr;
     }
@@ -263,6 +299,9 @@ void AllocReset() {
     PageFree(ring.next);
   }
   classes = {};
+  run_next = nullptr;
+  run_end = nullptr;
+  run_is_first = true;
   live_blocks = 0;
 }
 
