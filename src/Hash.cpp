@@ -133,6 +133,12 @@ static std::uint32_t HashIndexTag(const HashIndexRec &index, const char *key) {
   return HashText(key, index.compare == CaseInsensitiveCompareFunc);
 }
 
+// Equal tags nearly always mean equal keys, so that this is asked once for each look-up.
+static bool HashIndexEqual(const HashIndexRec &index, const char *left, const char *right) {
+  return index.compare == CaseSensitiveCompareFunc ? std::strcmp(left, right) == 0
+                                                   : index.compare(left, right) == 0;
+}
+
 // The link of that chain, or of any, with an equal key; or null.
 static HashBucketRec *HashIndexFind(const HashIndexRec &index, std::uint32_t bucket,
                                     const char *key) {
@@ -141,7 +147,7 @@ static HashBucketRec *HashIndexFind(const HashIndexRec &index, std::uint32_t buc
        place = (place + 1) & (index.size - 1)) {
     const HashSlotRec &slot = index.slots[place];
     if (slot.tag == tag && (bucket == kAnyBucket || slot.bucket == bucket) &&
-        index.compare(key, slot.link->key) == 0) {
+        HashIndexEqual(index, key, slot.link->key)) {
       return slot.link;
     }
   }

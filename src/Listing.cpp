@@ -118,8 +118,8 @@ static void ListingReserve(ListingLine *line, int length) {
   line->maxlen = static_cast<int>(size);
 }
 
-void PutListing(const char *text, int length) {
-  auto *line = static_cast<ListingLine *>(ListGetLast(listing));
+// Everything but the middle of a line.
+[[gnu::noinline]] static void ListingPutEdge(ListingLine *line, const char *text, int length) {
   if (line == nullptr || line->complete) {
     line = ListingNewLine(line);
   }
@@ -136,6 +136,20 @@ void PutListing(const char *text, int length) {
     line->complete = true;
     yylineno += yylineno < INT_MAX ? 1 : 0;
   }
+}
+
+// Most of the 80 pieces of a widget's source stand in the middle of a line, and there is room.
+void PutListing(const char *text, int length) {
+  auto *line = static_cast<ListingLine *>(ListGetLast(listing));
+  if (line == nullptr || line->complete || length <= 0 || text[length - 1] == '\n' ||
+      length >= line->maxlen - line->length) {
+    ListingPutEdge(line, text, length);
+    return;
+  }
+  char *end = line->text + line->length;
+  line->length += length;
+  end[length] = '\0';
+  std::memcpy(end, text, static_cast<std::size_t>(length));
 }
 
 ListingLine *ListingCurrentLine() {
