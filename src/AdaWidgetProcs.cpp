@@ -93,7 +93,7 @@ bool WidgetTableInit() {
   return widget_table != nullptr;
 }
 
-WidgetEmit *WidgetEmitRecord(const WidgetDef *widget) {
+static WidgetEmit *FindEmitRecord(const WidgetDef *widget) {
   auto *record = static_cast<WidgetEmit *>(ModelFind(widget_table, widget->name));
   if (record == nullptr) {
     record = ModelNew<WidgetEmit>(widget->kind);
@@ -103,6 +103,16 @@ WidgetEmit *WidgetEmitRecord(const WidgetDef *widget) {
     }
   }
   return record;
+}
+
+// Asked for nine times for each widget.
+WidgetEmit *WidgetEmitRecord(const WidgetDef *widget) {
+  WidgetNotes *notes = WidgetNotesOf(widget);
+  if (notes->emit_table != widget_table) {
+    notes->emit = FindEmitRecord(widget);
+    notes->emit_table = widget_table;
+  }
+  return notes->emit;
 }
 
 // Whether this is the first time for the widget and the flag, which is set.

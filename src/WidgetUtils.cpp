@@ -54,6 +54,19 @@ const WidgetDef *WidgetOrigin(const WidgetDef *widget) {
   return widget->origin == nullptr ? widget : widget->origin;
 }
 
+// A resolved reference is written along with its definition, so it leads to the notes at once.
+WidgetNotes *WidgetNotesOf(const WidgetDef *widget) {
+  if (widget->notes == nullptr) {
+    // The notes are the one thing that asking changes in the model.
+    auto *noted = const_cast<WidgetDef *>(WidgetOrigin(widget));
+    if (noted->notes == nullptr) {
+      noted->notes = new (ModelAllocate(sizeof(WidgetNotes))) WidgetNotes();
+    }
+    const_cast<WidgetDef *>(widget)->notes = noted->notes;
+  }
+  return widget->notes;
+}
+
 // The definition bound to the name, or null after a message.
 static const WidgetDef *FindDefinition(const char *name) {
   const SimpleObjectRec *entry = SymbolFind(name);
@@ -78,6 +91,7 @@ const WidgetDef *WidgetResolve(WidgetRef *reference) {
     if (definition == nullptr) {
       return nullptr;
     }
+    static_cast<void>(WidgetNotesOf(definition)); // before it is copied
     reference->resolved = ModelCopy(*definition);
     reference->resolved->managed = reference->managed;
     reference->resolved->origin = definition;
@@ -87,10 +101,12 @@ const WidgetDef *WidgetResolve(WidgetRef *reference) {
 
 // -- Flattening --------------------------------------------------------------------------------
 
-// What tells one sort of list from the others: the kinds that stand for a list inside it, what
-// becomes of any other item, for how many it counts, and the complaint when a list opens into too
+// What tells one sort of list from the others: its place in a widget's notes, the kinds that stand
+// for a list inside it, what becomes of any other item, for how many it counts, and the complaint
+// when a list opens into too
 // much.
 struct FlatRules {
+  std::size_t place;
   std::int32_t list_kind;
   std::int32_t list_name_kind;
   KindRec *(*keep)(KindRec *item);
@@ -126,12 +142,12 @@ static KindRec *KeepControl(KindRec *item) {
   }
 }
 
-static constexpr FlatRules kArgumentRules = {ARGUMENTS_LIST, ARGUMENTS_LIST_NAME, KeepItem,
-                                             WeighItem, "Too many arguments in"};
-static constexpr FlatRules kCallbackRules = {CALLBACKS_LIST, CALLBACKS_LIST_NAME, KeepItem,
-                                             WeighCallback, "Too many callbacks in"};
-static constexpr FlatRules kControlRules = {CONTROLS_LIST, CONTROLS_LIST_NAME, KeepControl,
-                                            WeighItem, "Too many controls below"};
+static constexpr FlatRules kArgumentRules = {0,        ARGUMENTS_LIST, ARGUMENTS_LIST_NAME,
+                                             KeepItem, WeighItem,      "Too many arguments in"};
+static constexpr FlatRules kCallbackRules = {1,        CALLBACKS_LIST, CALLBACKS_LIST_NAME,
+                                             KeepItem, WeighCallback,  "Too many callbacks in"};
+static constexpr FlatRules kControlRules = {2,           CONTROLS_LIST, CONTROLS_LIST_NAME,
+                                            KeepControl, WeighItem,     "Too many controls below"};
 
 // The note on a list: the weight of the items that it opens into, whether there are lists in it,
 // and that both are known.
@@ -229,36 +245,47 @@ static List FlatCopy(const WidgetDef *widget, List source, const FlatRules &rule
   return flat.release();
 }
 
-// The items of `source` with each list in it replaced by its own items.  Nearly always that is one
-// list without lists, which is taken as it is: without the copies 10,000 widgets take a tenth less.
-static List Flatten(const WidgetDef *widget, List source, const FlatRules &rules) {
-  if (ListLength(source) == 0) {
-    return nullptr;
-  }
+// Finds out whether `source`, which is not empty, opens into nothing or into one list without
+// lists, which is taken as it is.  True puts it into `flat`.
+static bool FindFlat(List source, const FlatRules &rules, List *flat) {
   auto *item = static_cast<KindRec *>(source->first->data);
   if (source->nitems == 1 && IsList(item, rules)) {
     List list = ListOfItem(item);
     const std::uint32_t items = CountOpened(list, rules);
-    if (items == 0) {
-      return nullptr;
-    }
-    if (items <= kMaxFlatItems && (list->note & kHasLists) == 0) {
-      return list;
-    }
+    *flat = items == 0 ? nullptr : list;
+    return items == 0 || (items <= kMaxFlatItems && (list->note & kHasLists) == 0);
   }
-  return FlatCopy(widget, source, rules);
+  return false;
+}
+
+// The items of `source` with each list in it replaced by its own items.  Nearly always the model
+// has such a list, which is taken as it is: without the copies 10,000 widgets take a tenth less.
+// Which one is noted on the widget, for the way there leads through four records and is gone six
+// times.
+static List Flatten(const WidgetDef *widget, List source, const FlatRules &rules) {
+  if (ListLength(source) == 0) {
+    return nullptr;
+  }
+  WidgetNotes *notes = WidgetNotesOf(widget);
+  if (notes->flat_from[rules.place] != source->nitems) {
+    if (!FindFlat(source, rules, &notes->flat[rules.place])) {
+      return FlatCopy(widget, source, rules);
+    }
+    notes->flat_from[rules.place] = source->nitems;
+  }
+  return notes->flat[rules.place];
 }
 
 List WidgetFlatArgumentsList(const WidgetDef *widget) {
-  return Flatten(widget, widget == nullptr ? nullptr : widget->args, kArgumentRules);
+  return widget == nullptr ? nullptr : Flatten(widget, widget->args, kArgumentRules);
 }
 
 List WidgetFlatCallbacksList(const WidgetDef *widget) {
-  return Flatten(widget, widget == nullptr ? nullptr : widget->cbs, kCallbackRules);
+  return widget == nullptr ? nullptr : Flatten(widget, widget->cbs, kCallbackRules);
 }
 
 List WidgetFlatControlsList(const WidgetDef *widget) {
-  return Flatten(widget, widget == nullptr ? nullptr : widget->ctls, kControlRules);
+  return widget == nullptr ? nullptr : Flatten(widget, widget->ctls, kControlRules);
 }
 
 // -- Classes -----------------------------------------------------------------------------------
@@ -497,13 +524,12 @@ static std::int64_t CountTree(const WidgetDef *widget) {
 }
 
 std::int64_t WidgetCountHierarchy(const WidgetDef *widget) {
-  // The remembered size is the one thing that asking changes in the model.
-  auto *counted = const_cast<WidgetDef *>(WidgetOrigin(widget));
-  if (counted->hierarchy == 0) {
-    counted->hierarchy = kLargestCount; // what is found by whoever gets back here in a ring
-    counted->hierarchy = CountTree(counted);
+  WidgetNotes *notes = WidgetNotesOf(widget);
+  if (notes->hierarchy == 0) {
+    notes->hierarchy = kLargestCount; // what is found by whoever gets back here in a ring
+    notes->hierarchy = CountTree(widget);
   }
-  return counted->hierarchy;
+  return notes->hierarchy;
 }
 
 // -- Procedures --------------------------------------------------------------------------------
@@ -576,11 +602,11 @@ const char *LegalText(const char *name) {
 }
 
 const char *WidgetAdaName(const WidgetDef *widget) {
-  auto *named = const_cast<WidgetDef *>(WidgetOrigin(widget)); // remembers like its hierarchy
-  if (named->ada_name == nullptr) {
-    named->ada_name = LegalText(named->name);
+  WidgetNotes *notes = WidgetNotesOf(widget);
+  if (notes->ada_name == nullptr) {
+    notes->ada_name = LegalText(widget->name);
   }
-  return named->ada_name;
+  return notes->ada_name;
 }
 
 void WidgetUtilsReset() { reported_names.clear(); }

@@ -53,6 +53,18 @@ bool WidgetIsDefined(const WidgetDef *widget);
 // resolved reference copies.  Two items of one definition share it.
 const WidgetDef *WidgetOrigin(const WidgetDef *widget);
 
+// What has been found out about a definition, shared by all that refer to it.
+struct WidgetNotes {
+  std::int64_t hierarchy; // size of the subtree, 0 while not counted
+  const char *ada_name;   // null while not asked for
+  WidgetEmit *emit;       // AdaWidgetProcs' record of its name, of the table below
+  HashTable emit_table;
+  List flat[3];               // its lists opened, as far as the model has them like that
+  std::uint32_t flat_from[3]; // how many items each was opened from, 0 while it was not
+};
+
+WidgetNotes *WidgetNotesOf(const WidgetDef *widget);
+
 // The shell class for a top-level widget (a constant).
 const char *DeduceShellForTopLevel(const WidgetDef *widget);
 void AppendShellsForTopLevel();

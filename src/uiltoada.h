@@ -332,6 +332,8 @@ struct CbsListItem : KindRec {
 
 // -- Widgets -----------------------------------------------------------------------------------
 
+struct WidgetNotes;
+
 struct WidgetDef : SimpleObjectRec {
   std::int32_t managed;  // MANAGED, UNMANAGED or NIL
   std::int32_t gadget;   // WIDGET or GADGET
@@ -346,8 +348,7 @@ struct WidgetDef : SimpleObjectRec {
 
   // The rest is private to WidgetUtils.
   const WidgetDef *origin; // of a resolved reference, the definition that it copies
-  std::int64_t hierarchy;  // remembered size of the subtree, 0 while not counted
-  const char *ada_name;    // remembered, null while not asked for
+  WidgetNotes *notes;      // what is remembered of the definition, null while nothing is
 };
 
 struct WidgetRef : SimpleObjectRec { // WIDGET_REF
