@@ -4,6 +4,9 @@
 
 #include "AdaString.h"
 
+#include <cstring>
+#include <string_view>
+
 #include "AdaArgument.h"
 #include "Emit.h"
 #include "Error.h"
@@ -14,6 +17,9 @@ namespace {
 constexpr unsigned char kFirstPrintable = 32;
 constexpr unsigned char kLastPrintable = 126;
 constexpr unsigned char kLastAscii = 127;
+
+// Beside its characters, the quotes and the zero of a text without other pieces.
+constexpr std::size_t kTypicalExtra = 64;
 
 // An expression being built.
 struct StringExpression {
@@ -32,17 +38,14 @@ static void BeginPiece(StringExpression *expression) {
   }
 }
 
-static void AppendPrintable(StringExpression *expression, char c) {
+// Characters that are neither quotes nor to be written by code.
+static void AppendPrintable(StringExpression *expression, std::string_view run) {
   if (!expression->in_quote) {
     BeginPiece(expression);
     expression->text += "      \"";
     expression->in_quote = true;
   }
-  if (c == '"') {
-    expression->text += "\"\"";
-  } else {
-    expression->text += c;
-  }
+  expression->text += run;
 }
 
 // Every report of one text names the first such character.
@@ -72,14 +75,21 @@ std::string string_value_expr(const char *text) {
     return "      \"\" & character'val( 0 )";
   }
   StringExpression expression;
+  expression.text.reserve(std::strlen(text) + kTypicalExtra);
   for (const char *next = text;; ++next) {
-    const auto c = static_cast<unsigned char>(*next);
-    if (IsPrintable(c)) {
-      AppendPrintable(&expression, *next);
-    } else {
-      AppendCode(&expression, c);
+    const char *run = next;
+    while (IsPrintable(static_cast<unsigned char>(*next)) && *next != '"') {
+      ++next;
     }
-    if (c == '\0') {
+    if (next != run) {
+      AppendPrintable(&expression, {run, static_cast<std::size_t>(next - run)});
+    }
+    if (*next == '"') {
+      AppendPrintable(&expression, "\"\"");
+    } else {
+      AppendCode(&expression, static_cast<unsigned char>(*next));
+    }
+    if (*next == '\0') {
       return expression.text;
     }
   }

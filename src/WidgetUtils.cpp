@@ -596,7 +596,24 @@ std::string LegalName(std::string_view name) {
   return result;
 }
 
+// Whether LegalName leaves the name as it is, seen without a copy: nearly all are written like
+// this.
+static bool IsPlainlyLegal(const char *name) {
+  char before = '_';
+  for (; *name != '\0'; ++name) {
+    const bool is_plain = AsciiIsAlnum(*name) && AsciiToLower(*name) == *name;
+    if (!is_plain && (*name != '_' || before == '_')) {
+      return false;
+    }
+    before = *name;
+  }
+  return before != '_';
+}
+
 const char *LegalText(const char *name) {
+  if (IsPlainlyLegal(name)) {
+    return name;
+  }
   const std::string legal = LegalName(name);
   return legal == name ? name : ModelText(legal);
 }
