@@ -16,7 +16,7 @@
 
 namespace {
 
-// Formatted text on its way to a stream or, where `file` is null, to a string.
+// Formatted text on its way to a stream or, where `result` is not null, to a string.
 struct EmitBuffer {
   std::FILE *file;
   std::string *result;
@@ -44,7 +44,7 @@ constexpr std::size_t kUnitTexts = 5; // at one time
 static std::array<UnitText, kUnitTexts> unit_texts;
 
 static void EmitBytes(const EmitBuffer &buffer, std::string_view bytes) {
-  if (buffer.file == nullptr) {
+  if (buffer.result != nullptr) {
     buffer.result->append(bytes);
   } else {
     std::fwrite(bytes.data(), 1, bytes.size(), buffer.file);
