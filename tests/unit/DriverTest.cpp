@@ -4,6 +4,7 @@
 #include "Driver.h"
 
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -84,6 +85,25 @@ TEST_F(Driver, ProgramNameIsTheLastPartOfThePath) {
   EXPECT_EQ(errors, "plain: Requires arguments.\n");
   EXPECT_EQ(Run({}, &errors), 1);
   EXPECT_EQ(errors, "kivuxl: Requires arguments.\n");
+}
+
+// Else the listing would be opened as standard output, and the units would land in it.
+TEST_F(Driver, ClosedStandardOutputIsNoOtherFile) {
+  Put("m.uil", "module m end module;\n");
+  int status = -1;
+  const std::string errors = ErrorsOf([&] {
+    const pid_t child = fork();
+    if (child == 0) {
+      close(STDIN_FILENO);
+      close(STDOUT_FILENO);
+      _exit(Arguments({"kivuxl", "-v", "list", "-o", "-", "m.uil"}).Run());
+    }
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+  });
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+  EXPECT_EQ(errors, "kivuxl: Error writing file \"-\".\n");
+  EXPECT_EQ(Contents("list").find("package"), std::string::npos);
+  EXPECT_EQ(Contents("m.uil"), "module m end module;\n");
 }
 
 TEST_F(Driver, StandardDirectoriesComeLast) {

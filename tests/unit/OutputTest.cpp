@@ -410,3 +410,17 @@ TEST_F(Output, HandlerRemovesEveryTemporaryFile) {
   });
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
 }
+
+TEST_F(Output, TerminationWithoutMemoryRemovesThemAndSaysSo) {
+  int status = -1;
+  const std::string printed = ErrorsOf([&] {
+    status = EndingOf([] {
+      OutputCatchSignals();
+      Finished("1");
+      std::terminate();
+    });
+  });
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+  EXPECT_EQ(printed, "kivuxl: Out of memory.\n");
+  EXPECT_EQ(All(), (std::set<std::string>{}));
+}
