@@ -131,8 +131,8 @@ static PageHeader *SmallPageCreate(std::size_t block_size) {
 }
 
 static PageHeader *PageOf(void *block) {
-  const auto address = reinterpret_cast<std::uintptr_t>(block);
-  return reinterpret_cast<PageHeader *>(address & ~(kPageSize - 1));
+  const std::uintptr_t offset = reinterpret_cast<std::uintptr_t>(block) & (kPageSize - 1);
+  return reinterpret_cast<PageHeader *>(static_cast<char *>(block) - offset);
 }
 
 // -- Blocks ------------------------------------------------------------------------------------
@@ -295,9 +295,14 @@ char *SafeStrdup(const char *str) {
 }
 
 void AllocReset() {
-  while (ring.next != &ring) {
-    PageFree(ring.next);
+  PageHeader *page = ring.next;
+  while (page != &ring) {
+    PageHeader *next = page->next;
+    std::free(page);
+    page = next;
   }
+  ring.next = &ring;
+  ring.previous = &ring;
   classes = {};
   run_next = nullptr;
   run_end = nullptr;
