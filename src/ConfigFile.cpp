@@ -8,16 +8,12 @@
 
 #include <cstdio>
 #include <cstring>
-#include <memory>
 
 #include "Error.h"
+#include "Files.h"
 #include "Options.h"
 
-struct FileCloser {
-  void operator()(std::FILE *file) const { std::fclose(file); }
-};
-
-static std::unique_ptr<std::FILE, FileCloser> cfg_fp; // null while no file is open
+static Stream cfg_fp; // null while no file is open
 static std::string cfg_name;
 
 static bool IsBlank(char c) { return c == ' ' || c == '\t'; }

@@ -28,11 +28,6 @@ int file_number = 0;
 constexpr int kScannerBufferSize = 16384;
 constexpr std::size_t kCopyBlock = 8192;
 
-struct FileCloser {
-  void operator()(std::FILE *file) const { std::fclose(file); }
-};
-using Stream = std::unique_ptr<std::FILE, FileCloser>;
-
 // Which file on disk a path has led to.
 struct FileIdentity {
   dev_t device;

@@ -6,11 +6,19 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <memory>
 
 #include "List.h"
 #include "uiltoada.h"
 
 struct yy_buffer_state;
+
+// An open file that closes itself.  What the closing says is lost: a file that has been written is
+// closed by hand.
+struct FileCloser {
+  void operator()(std::FILE *file) const { std::fclose(file); }
+};
+using Stream = std::unique_ptr<std::FILE, FileCloser>;
 
 // One include directory.
 struct Kivu_IncludePath : KindRec {

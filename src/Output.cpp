@@ -20,7 +20,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <exception>
-#include <memory>
 #include <string_view>
 
 #include "Alloc.h"
@@ -254,14 +253,10 @@ static std::FILE *CreateBeside(const std::string &beside) {
   return stream;
 }
 
-struct FileCloser {
-  void operator()(std::FILE *file) const { std::fclose(file); }
-};
-
 // Copies the temporary file to the name beside `final_name`, which is the one that messages name.
 static bool CopyBeside(const std::string &temporary, const std::string &beside,
                        const std::string &final_name) {
-  const std::unique_ptr<std::FILE, FileCloser> from(std::fopen(temporary.c_str(), "r"));
+  const Stream from(std::fopen(temporary.c_str(), "r"));
   if (from == nullptr) {
     ErrorFormat(kImmediate, "Cannot open file \"%s\" for reading", temporary.c_str());
     return false;
