@@ -8,6 +8,8 @@
 
 #include "uiltoada.h"
 
+// Writes the callbacks package, a stub for each procedure that the module uses; without any, its
+// empty forms.  A failed write shows when the streams are checked.
 void OutputCallbacks(std::FILE *spec, std::FILE *body);
 
 // `spec` and `inst` may be null when the wrapper is not generic.

@@ -12,6 +12,8 @@ struct PackageShellCount {
   const char *key;
 };
 
+// Writes the main procedure, which creates the shells, manages and realises what is in them, and
+// enters the toolkit's loop.  A failed write shows when the stream is checked.
 void OutputMain(std::FILE *file);
 
 // The expression by which the main procedure reaches an entry's package.

@@ -630,7 +630,7 @@ static void WidgetCallPostProcs(const WidgetDef *widget, List controls, std::FIL
   });
 }
 
-// The procedure of this widget alone.  Not inlined for the same reason.
+// The procedure of this widget alone.  Not inlined, as the function above is not.
 [[gnu::noinline]] static void WidgetWriteOnePostProc(const WidgetDef *widget, List controls,
                                                      std::FILE *file, unsigned *counter) {
   const FlatList arguments(WidgetFlatArgumentsList(widget));

@@ -15,6 +15,9 @@ extern const WidgetDef *current_top_level; // the tree being written, or null
 // Create `widget_table`; false when it could not be made.
 bool WidgetTableInit();
 
+// Each of these walks the tree below the widget and writes its part for every widget in it once,
+// however many parents share it.  `counter` counts the invocations of procedures met so far, which
+// are the client data; the caller starts it at 0 and hands it from tree to tree.
 void WidgetWriteCreateProc(const WidgetDef *widget, std::FILE *file, unsigned *counter);
 void WidgetWritePostProc(const WidgetDef *widget, std::FILE *file, unsigned *counter);
 void WidgetDeclareCreateProc(const WidgetDef *widget, std::FILE *file);

@@ -560,8 +560,8 @@ void DropUnusedProcedures() {
 // -- Names -------------------------------------------------------------------------------------
 
 // Takes out underscores at the start and the second of each pair.  The character behind one that
-// is taken out is kept unseen, so that of three underscores two stay.  In place: 30 calls for each
-// widget come here.
+// is taken out is kept unseen, so that of three underscores two stay.  In place, as
+// every name of the module comes here.
 static void DropUnderscores(std::string *name) {
   char *const text = name->data();
   std::size_t length = 0;

@@ -92,7 +92,7 @@ std::string LegalName(std::string_view name);
 // The same as a text of the model, which is the name itself where that is legal.
 const char *LegalText(const char *name);
 
-// The Ada identifier of a widget.  Remembered per definition: it is written 12 times at least.
+// The Ada identifier of a widget.  Remembered per definition: it is written 8 to 12 times.
 const char *WidgetAdaName(const WidgetDef *widget);
 
 void WidgetUtilsReset();
