@@ -57,11 +57,11 @@ void argument_declare(const NamedSetting *argument, std::FILE *file, int n) {
     return;
   }
   if (orvo_revision < kArgnameRevision) {
-    Emit(file, "    arg_%d : constant string := \"%s\" & ASCII.NUL;\n", n, argument->name);
+    Emit(file, "    arg_%d : constant string := \"%s\" & ASCII.NUL;\n"_ada, n, argument->name);
   } else {
     Emit(file,
          "    arg_%d : constant xmdef.argname :=\n"
-         "        xmdef.argname( string'( \"%s\" ) & ASCII.NUL );\n",
+         "        xmdef.argname( string'( \"%s\" ) & ASCII.NUL );\n"_ada,
          n, argument->name);
   }
 }
@@ -72,9 +72,9 @@ void argument_setarg(const char *expression, const NamedSetting *argument, std::
   }
   if (argument->predefined) {
     const char *name = argument->name + std::min(kResourcePrefix, std::strlen(argument->name));
-    Emit(file, "    xtr5.setarg( args( %d ), xmdef.n%s, %s );\n", n, name, expression);
+    Emit(file, "    xtr5.setarg( args( %d ), xmdef.n%s, %s );\n"_ada, n, name, expression);
   } else {
-    Emit(file, "    xtr5.setarg( args( %d ), arg_%d, %s );\n", n, n, expression);
+    Emit(file, "    xtr5.setarg( args( %d ), arg_%d, %s );\n"_ada, n, n, expression);
   }
 }
 
@@ -95,15 +95,15 @@ const char *argument_object_type(std::int32_t kind) { return ValueObjectType(kin
 std::string ExpressionFormat(const char *format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  std::string text = EmitToString(format, arguments);
+  std::string text = EmitByLibrary(format, arguments);
   va_end(arguments);
   return text;
 }
 
 std::string ExpressionAddress(const std::string &name) {
-  return ExpressionFormat("%s'address", name.c_str());
+  return ExpressionFormat("%s'address"_ada, name.c_str());
 }
 
 std::string ExpressionFirstAddress(const std::string &name) {
-  return ExpressionFormat("%s( %s'first )'address", name.c_str(), name.c_str());
+  return ExpressionFormat("%s( %s'first )'address"_ada, name.c_str(), name.c_str());
 }

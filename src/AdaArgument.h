@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <string>
 
+#include "Emit.h"
 #include "uiltoada.h"
 
 // Declares the name constant of a user-defined argument or reason; nothing for a predefined one,
@@ -23,7 +24,11 @@ const char *argument_paired_arg(const char *name);
 // The Ada type of a value of that kind.
 const char *argument_object_type(std::int32_t kind);
 
-// A short generated text, such as the name of a variable.
+// A short generated text, such as the name of a variable; with conversions of printf the second.
+template <AdaText text, typename... Values>
+std::string ExpressionFormat(AdaTemplate<text> ada, const Values &...values) {
+  return EmitToString(ada, values...);
+}
 std::string ExpressionFormat(const char *format, ...) __attribute__((format(printf, 1, 2)));
 
 // The address of a variable, and that of the first element of an array.

@@ -35,7 +35,7 @@ template <typename Action> static void ForEachProcedure(std::int32_t usage, Acti
 static void WriteEmptyStubSpec(std::FILE *spec, const std::string &package) {
   Emit(spec,
        "package %s is\n"
-       "end %s;\n",
+       "end %s;\n"_ada,
        package.c_str(), package.c_str());
 }
 
@@ -47,14 +47,14 @@ static void WriteStubDeclaration(const ProcedureName *procedure, std::FILE *spec
          "    parent : in xtr5.widget;\n"
          "    name   : in string;\n"
          "    args   : in xtr5.arglist;\n"
-         "    nargs  : in xtr5.int ) return xtr5.widget;\n",
+         "    nargs  : in xtr5.int ) return xtr5.widget;\n"_ada,
          name.c_str());
   } else if (procedure->usage == CALLBACK_PROC) {
     Emit(spec,
          "  procedure %s(\n"
          "      w           : in xtr5.widget;\n"
          "      client_data : in %s;\n"
-         "      call_data   : in xtr5.pointer );\n",
+         "      call_data   : in xtr5.pointer );\n"_ada,
          name.c_str(), argument_object_type(procedure->type));
   }
 }
@@ -69,13 +69,13 @@ static void CallbackStubPkgSpec(std::FILE *spec) {
        "with XlibR5;\n"
        "with XtR5;\n"
        "with Xm1_2_2;\n"
-       "package %s is\n",
+       "package %s is\n"_ada,
        package.c_str());
   for (const ListItem *node = ListFirstNode(unbound_procedures); node != nullptr;
        node = node->next) {
     WriteStubDeclaration(static_cast<const ProcedureName *>(node->data), spec);
   }
-  Emit(spec, "end %s;\n", package.c_str());
+  Emit(spec, "end %s;\n"_ada, package.c_str());
 }
 
 // Ada 95 does not allow a package body that nothing requires.
@@ -86,7 +86,7 @@ static void WriteEmptyStubBody(std::FILE *body, const std::string &package) {
   }
   Emit(body,
        "package body %s is\n"
-       "end %s;\n",
+       "end %s;\n"_ada,
        package.c_str(), package.c_str());
 }
 
@@ -101,7 +101,7 @@ static void WriteStub(const ProcedureName *procedure, std::FILE *body) {
          "    nargs  : in xtr5.int ) return xtr5.widget is\n"
          "  begin\n"
          "    return xtr5.xtnull;\n"
-         "  end %s;\n",
+         "  end %s;\n"_ada,
          name.c_str(), name.c_str());
   } else if (procedure->usage == CALLBACK_PROC) {
     Emit(body,
@@ -111,7 +111,7 @@ static void WriteStub(const ProcedureName *procedure, std::FILE *body) {
          "      call_data   : in xtr5.pointer ) is\n"
          "  begin\n"
          "    null;\n"
-         "  end %s;\n",
+         "  end %s;\n"_ada,
          name.c_str(), argument_object_type(procedure->type), name.c_str());
   }
 }
@@ -122,12 +122,12 @@ static void CallbackStubPkgBody(std::FILE *body) {
     WriteEmptyStubBody(body, package);
     return;
   }
-  Emit(body, "package body %s is\n", package.c_str());
+  Emit(body, "package body %s is\n"_ada, package.c_str());
   for (const ListItem *node = ListFirstNode(unbound_procedures); node != nullptr;
        node = node->next) {
     WriteStub(static_cast<const ProcedureName *>(node->data), body);
   }
-  Emit(body, "end %s;\n", package.c_str());
+  Emit(body, "end %s;\n"_ada, package.c_str());
 }
 
 void OutputCallbacks(std::FILE *spec, std::FILE *body) {
@@ -147,7 +147,7 @@ static void WriteNullWrapper(std::FILE *body) {
        "    call_data   : in xtr5.pointer ) is\n"
        "begin\n"
        "  null;\n"
-       "end %s_cbproc;\n",
+       "end %s_cbproc;\n"_ada,
        package_base.c_str(), package_base.c_str());
 }
 
@@ -156,20 +156,20 @@ static void WriteGenericWrapper(std::FILE *spec) {
   Emit(spec, "with XlibR5;\n"
              "with XtR5;\n"
              "with Xm1_2_2;\n"
-             "generic\n");
+             "generic\n"_ada);
   ForEachProcedure(CALLBACK_PROC, [spec](const ProcedureName *procedure) {
     Emit(spec,
          "  with procedure %s(\n"
          "      w           : in xtr5.widget;\n"
          "      client_data : in %s;\n"
-         "      call_data   : in xtr5.pointer );\n",
+         "      call_data   : in xtr5.pointer );\n"_ada,
          LegalName(procedure->name).c_str(), argument_object_type(procedure->type));
   });
   Emit(spec,
        "procedure %s_cbproc(\n"
        "    w           : in xtr5.widget;\n"
        "    client_data : in xtr5.argval;\n"
-       "    call_data   : in xtr5.pointer );\n",
+       "    call_data   : in xtr5.pointer );\n"_ada,
        package_base.c_str());
 }
 
@@ -179,10 +179,10 @@ static void WriteWrapperContext(std::FILE *body) {
        "with XtR5;\n"
        "with Xm1_2_2;\n"
        "with %s_client_data;\n"
-       "use  %s_client_data;\n",
+       "use  %s_client_data;\n"_ada,
        package_base.c_str(), package_base.c_str());
   if (forbid_generic_wrapper) {
-    Emit(body, "with %s;\n", CallbacksPackage().c_str());
+    Emit(body, "with %s;\n"_ada, CallbacksPackage().c_str());
   }
 }
 
@@ -202,14 +202,14 @@ static void WriteWrapperBody(std::FILE *body) {
        "    client_data : in xtr5.argval;\n"
        "    call_data   : in xtr5.pointer ) is\n"
        "begin\n"
-       "  case client_data is\n",
+       "  case client_data is\n"_ada,
        package_base.c_str());
   WriteWrapperCases(body);
   Emit(body,
        "    when others =>\n"
        "      null;\n"
        "  end case;\n"
-       "end %s_cbproc;\n",
+       "end %s_cbproc;\n"_ada,
        package_base.c_str());
 }
 
@@ -252,7 +252,7 @@ void CallbackWrapperProcCase(const ProcedureInvoke *invocation, std::FILE *body,
   const int n = static_cast<int>(number);
   Emit(body,
        "    when %d =>\n"
-       "      %s(w, %s, call_data);\n",
+       "      %s(w, %s, call_data);\n"_ada,
        n, CalledName(invocation->proc).c_str(), ClientDataExpression(invocation, n).c_str());
 }
 
@@ -269,15 +269,15 @@ static void CallbackWrapperInst(std::FILE *inst) {
        "with %s_cbproc;\n"
        "with %s;\n"
        "procedure %s_cbinst is new\n"
-       "  %s_cbproc(\n",
+       "  %s_cbproc(\n"_ada,
        base, package.c_str(), base, base);
   const char *separator = "";
   ForEachProcedure(CALLBACK_PROC, [inst, &package, &separator](const ProcedureName *procedure) {
     const std::string name = LegalName(procedure->name);
-    Emit(inst, "%s    %s => %s.%s", separator, name.c_str(), package.c_str(), name.c_str());
+    Emit(inst, "%s    %s => %s.%s"_ada, separator, name.c_str(), package.c_str(), name.c_str());
     separator = ",\n";
   });
-  Emit(inst, " );\n");
+  Emit(inst, " );\n"_ada);
 }
 
 void OutputWrapper(std::FILE *spec, std::FILE *body, std::FILE *inst) {

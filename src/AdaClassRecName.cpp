@@ -52,7 +52,7 @@ std::string class_rec_name_value_expr(const char *text) {
   return std::string("xm1_2_2.").append(name).append(ending);
 }
 
-std::string class_rec_name_varname(int n) { return ExpressionFormat("class_rec_name_%d", n); }
+std::string class_rec_name_varname(int n) { return ExpressionFormat("class_rec_name_%d"_ada, n); }
 
 std::string class_rec_name_varptr(int n) { return class_rec_name_varname(n); }
 
@@ -60,7 +60,7 @@ void class_rec_name_declare(const KindRec *value, const NamedSetting *argument, 
                             int n) {
   const char *class_name = static_cast<const ClassRecNameValue *>(value)->value;
   argument_declare(argument, file, n);
-  Emit(file, "    %s : constant %s := %s;\n", class_rec_name_varname(n).c_str(),
+  Emit(file, "    %s : constant %s := %s;\n"_ada, class_rec_name_varname(n).c_str(),
        argument_object_type(CLASS_REC_NAME), class_rec_name_value_expr(class_name).c_str());
 }
 

@@ -23,7 +23,7 @@ struct SegmentAttributes {
 
 } // namespace
 
-std::string compound_string_varname(int n) { return ExpressionFormat("compound_string_%d", n); }
+std::string compound_string_varname(int n) { return ExpressionFormat("compound_string_%d"_ada, n); }
 
 std::string compound_string_varptr(int n) { return compound_string_varname(n); }
 
@@ -40,7 +40,7 @@ static int DeclareSegmentTexts(List items, std::FILE *file, int n) {
     ++segments;
     Emit(file,
          "    string_%d_%d : constant string :=\n"
-         "%s;\n",
+         "%s;\n"_ada,
          n, segments,
          string_value_expr(static_cast<const CompoundStringSegment *>(item)->value).c_str());
   }
@@ -52,10 +52,10 @@ void compound_string_declare(const KindRec *value, const NamedSetting *argument,
   argument_declare(argument, file, n);
   const int segments =
       DeclareSegmentTexts(static_cast<const CompoundStringVal *>(value)->value, file, n);
-  Emit(file, "    compound_string_%d : xm1_2_2.xmstring;\n", n);
+  Emit(file, "    compound_string_%d : xm1_2_2.xmstring;\n"_ada, n);
   if (segments > 1) {
-    Emit(file, "    compound_string_segment_%d : xm1_2_2.xmstring;\n", n);
-    Emit(file, "    compound_string_temp_%d : xm1_2_2.xmstring;\n", n);
+    Emit(file, "    compound_string_segment_%d : xm1_2_2.xmstring;\n"_ada, n);
+    Emit(file, "    compound_string_temp_%d : xm1_2_2.xmstring;\n"_ada, n);
   }
 }
 
@@ -94,7 +94,7 @@ static void CreateSegment(const SegmentAttributes &attributes, std::FILE *file, 
          "      xm1_2_2.stringsegmentcreate( string_%d_%d,\n"
          "                                   \"%s\",\n"
          "                                   xm1_2_2.%s,\n"
-         "                                   %s );\n",
+         "                                   %s );\n"_ada,
          variable, n, n, segment, charset, direction, separator);
   } else {
     Emit(file,
@@ -102,7 +102,7 @@ static void CreateSegment(const SegmentAttributes &attributes, std::FILE *file, 
          "      xm1_2_2.stringsegmentcreate( string_%d_%d,\n"
          "                                   xmdef.FONTLIST_DEFAULT_TAG,\n"
          "                                   xm1_2_2.%s,\n"
-         "                                   %s );\n",
+         "                                   %s );\n"_ada,
          variable, n, n, segment, direction, separator);
   }
 }
@@ -116,7 +116,7 @@ static void AppendSegment(std::FILE *file, int n) {
        "      xm1_2_2.stringconcat( compound_string_temp_%d,\n"
        "                            compound_string_segment_%d );\n"
        "    xm1_2_2.stringfree( compound_string_temp_%d );\n"
-       "    xm1_2_2.stringfree( compound_string_segment_%d );\n",
+       "    xm1_2_2.stringfree( compound_string_segment_%d );\n"_ada,
        n, n, n, n, n, n, n, n);
 }
 
@@ -174,5 +174,5 @@ void compound_string_setarg(const KindRec *value, const NamedSetting *argument, 
 
 // The widget has a copy of its own by then.
 void compound_string_cleanup(std::FILE *file, int n) {
-  Emit(file, "    xm1_2_2.stringfree( %s );\n", compound_string_varname(n).c_str());
+  Emit(file, "    xm1_2_2.stringfree( %s );\n"_ada, compound_string_varname(n).c_str());
 }

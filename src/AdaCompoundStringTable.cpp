@@ -8,7 +8,7 @@
 #include "Emit.h"
 
 std::string compound_string_table_varname(int n) {
-  return ExpressionFormat("compound_string_table_%d", n);
+  return ExpressionFormat("compound_string_table_%d"_ada, n);
 }
 
 std::string compound_string_table_varptr(int n) {
@@ -19,24 +19,24 @@ void compound_string_table_declare(const KindRec *value, const NamedSetting *arg
                                    std::FILE *file, int n) {
   const auto entries = ListLength(static_cast<const CmpStringTableVal *>(value)->value);
   argument_declare(argument, file, n);
-  Emit(file, "    %s : %s( 1 .. %d ) := ( others => xtr5.xtnull );\n",
+  Emit(file, "    %s : %s( 1 .. %d ) := ( others => xtr5.xtnull );\n"_ada,
        compound_string_table_varname(n).c_str(), argument_object_type(COMPOUND_STRING_TABLE),
        static_cast<int>(entries) + 1);
 }
 
 static void FillTable(List entries, const std::string &table, std::FILE *file) {
-  Emit(file, "    declare\n");
+  Emit(file, "    declare\n"_ada);
   int i = 0;
   for (const ListItem *node = ListFirstNode(entries); node != nullptr; node = node->next) {
     compound_string_declare(static_cast<const KindRec *>(node->data), nullptr, file, ++i);
   }
-  Emit(file, "    begin\n");
+  Emit(file, "    begin\n"_ada);
   i = 0;
   for (const ListItem *node = ListFirstNode(entries); node != nullptr; node = node->next) {
     compound_string_setarg(static_cast<const KindRec *>(node->data), nullptr, file, ++i);
-    Emit(file, "    %s( %d ) := %s;\n", table.c_str(), i, compound_string_varname(i).c_str());
+    Emit(file, "    %s( %d ) := %s;\n"_ada, table.c_str(), i, compound_string_varname(i).c_str());
   }
-  Emit(file, "    end;\n");
+  Emit(file, "    end;\n"_ada);
 }
 
 // The count resource of the pair, which leaves out the null entry.
@@ -45,7 +45,7 @@ static void SetCount(const char *count_name, const std::string &table, std::FILE
   count.kind = ARGUMENT;
   count.name = count_name;
   count.predefined = true;
-  const std::string length = ExpressionFormat("xtr5.argval( %s'length - 1 )", table.c_str());
+  const std::string length = ExpressionFormat("xtr5.argval( %s'length - 1 )"_ada, table.c_str());
   argument_setarg(length.c_str(), &count, file, n);
 }
 
@@ -71,6 +71,6 @@ void compound_string_table_cleanup(std::FILE *file, int n) {
        "      if %s( index_%d ) /= xtr5.xtnull then\n"
        "        xm1_2_2.stringfree( %s( index_%d ) );\n"
        "      end if;\n"
-       "    end loop;\n",
+       "    end loop;\n"_ada,
        n, table, table, n, table, n);
 }

@@ -6,7 +6,7 @@
 #include "AdaArgument.h"
 #include "Emit.h"
 
-std::string float_varname(int n) { return ExpressionFormat("float_%d", n); }
+std::string float_varname(int n) { return ExpressionFormat("float_%d"_ada, n); }
 
 std::string float_varptr(int n) { return ExpressionAddress(float_varname(n)); }
 

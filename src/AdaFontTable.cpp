@@ -10,7 +10,7 @@
 #include "Error.h"
 #include "Model.h"
 
-std::string font_table_varname(int n) { return ExpressionFormat("font_table_%d", n); }
+std::string font_table_varname(int n) { return ExpressionFormat("font_table_%d"_ada, n); }
 
 std::string font_table_varptr(int n) { return font_table_varname(n); }
 
@@ -74,11 +74,11 @@ template <typename Visit> void ForEachFont(List entries, Visit visit) {
 static void DeclareTag(const char *charset, std::FILE *file, int n, int i) {
   const char *tag = charset != nullptr && *charset != '\0' ? charset : default_character_set;
   if (tag != nullptr) {
-    Emit(file, "    font_table_tag_%d_%d : constant string := \"%s\";\n", n, i, tag);
+    Emit(file, "    font_table_tag_%d_%d : constant string := \"%s\";\n"_ada, n, i, tag);
   } else {
     Emit(file,
          "    font_table_tag_%d_%d : constant string :=\n"
-         "        Xmdef.FONTLIST_DEFAULT_TAG;\n",
+         "        Xmdef.FONTLIST_DEFAULT_TAG;\n"_ada,
          n, i);
   }
 }
@@ -86,10 +86,10 @@ static void DeclareTag(const char *charset, std::FILE *file, int n, int i) {
 void font_table_declare(const KindRec *value, const NamedSetting *argument, std::FILE *file,
                         int n) {
   argument_declare(argument, file, n);
-  Emit(file, "    %s : %s;\n", font_table_varname(n).c_str(), argument_object_type(FONT_TABLE));
+  Emit(file, "    %s : %s;\n"_ada, font_table_varname(n).c_str(), argument_object_type(FONT_TABLE));
   ForEachEntry(static_cast<const FontTableValue *>(value)->value,
                [&](const KindRec *entry, const EntryFamily *family, int i) {
-                 Emit(file, "    font_table_entry_%d_%d : xm1_2_2.fontlistentry;\n", n, i);
+                 Emit(file, "    font_table_entry_%d_%d : xm1_2_2.fontlistentry;\n"_ada, n, i);
                  if (family == nullptr) {
                    ErrorMessage(kImmediate, "Internal error: unexpected type in font table");
                  } else {
@@ -99,11 +99,11 @@ void font_table_declare(const KindRec *value, const NamedSetting *argument, std:
 }
 
 static void CreateEntries(List entries, std::FILE *file, int n) {
-  Emit(file, "    declare\n");
+  Emit(file, "    declare\n"_ada);
   ForEachFont(entries, [&](const KindRec *entry, const EntryFamily &family, int i) {
     family.declare(entry, nullptr, file, i);
   });
-  Emit(file, "    begin\n");
+  Emit(file, "    begin\n"_ada);
   ForEachFont(entries, [&](const KindRec *entry, const EntryFamily &family, int i) {
     family.setarg(entry, nullptr, file, i);
     Emit(file,
@@ -111,10 +111,10 @@ static void CreateEntries(List entries, std::FILE *file, int n) {
          "      xm1_2_2.fontlistentrycreate(\n"
          "        font_table_tag_%d_%d,\n"
          "        %s,\n"
-         "        %s );\n",
+         "        %s );\n"_ada,
          n, i, n, i, family.type, family.varname(i).c_str());
   });
-  Emit(file, "    end;\n");
+  Emit(file, "    end;\n"_ada);
 }
 
 static void JoinEntries(List entries, const char *table, std::FILE *file, int n) {
@@ -124,7 +124,7 @@ static void JoinEntries(List entries, const char *table, std::FILE *file, int n)
          "      xm1_2_2.fontlistappendentry(\n"
          "        %s,\n"
          "        font_table_entry_%d_%d );\n"
-         "    xtr5.free( font_table_entry_%d_%d );\n",
+         "    xtr5.free( font_table_entry_%d_%d );\n"_ada,
          table, table, n, i, n, i);
   });
 }
@@ -135,7 +135,7 @@ void font_table_setarg(const KindRec *value, const NamedSetting *argument, std::
   if (ListLength(entries) != 0) {
     CreateEntries(entries, file, n);
   }
-  Emit(file, "    %s := xtr5.xtnull;\n", table.c_str());
+  Emit(file, "    %s := xtr5.xtnull;\n"_ada, table.c_str());
   JoinEntries(entries, table.c_str(), file, n);
   argument_setarg(table.c_str(), argument, file, n);
 }

@@ -14,7 +14,7 @@
 #include "AdaWidgetProcs.h"
 #include "Emit.h"
 
-std::string icon_varname(int n) { return ExpressionFormat("icon_%d", n); }
+std::string icon_varname(int n) { return ExpressionFormat("icon_%d"_ada, n); }
 
 std::string icon_varptr(int n) { return ExpressionAddress(icon_varname(n)); }
 
@@ -24,37 +24,37 @@ static void DeclareRows(List rows, std::FILE *file, int n) {
   const int count = static_cast<int>(ListLength(rows));
   std::size_t width = 0;
   if (count == 0) {
-    Emit(file, "    icon_strings_%d : xlibr5.stringlist( 1 .. 0 );\n", n);
+    Emit(file, "    icon_strings_%d : xlibr5.stringlist( 1 .. 0 );\n"_ada, n);
   } else {
-    Emit(file, "    icon_strings_%d : xlibr5.stringlist( 1 .. %d ) := (\n", n, count);
+    Emit(file, "    icon_strings_%d : xlibr5.stringlist( 1 .. %d ) := (\n"_ada, n, count);
   }
   int i = 0;
   for (const ListItem *node = ListFirstNode(rows); node != nullptr; node = node->next) {
     const auto *row = static_cast<const char *>(node->data);
     ++i;
-    Emit(file, "        %d => new string'( \"%s\" )%s\n", i, row, i == count ? " );" : ",");
+    Emit(file, "        %d => new string'( \"%s\" )%s\n"_ada, i, row, i == count ? " );" : ",");
     width = std::max(width, std::strlen(row));
   }
-  Emit(file, "    icon_strlen_%d : constant integer := %d;\n", n, static_cast<int>(width));
+  Emit(file, "    icon_strlen_%d : constant integer := %d;\n"_ada, n, static_cast<int>(width));
 }
 
 static void DeclareDefaultColors(std::FILE *file, int n) {
-  Emit(file, "    icon_pixels_%d : xlibr5.pixellist( 1 .. 2 );\n", n);
+  Emit(file, "    icon_pixels_%d : xlibr5.pixellist( 1 .. 2 );\n"_ada, n);
   Emit(file,
        "    icon_chars_%d : xlibr5.stringlist( 1 .. 2 ) := (\n"
        "        new string'( \" \" ),\n"
-       "        new string'( \"*\" ) );\n",
+       "        new string'( \"*\" ) );\n"_ada,
        n);
 }
 
 static void DeclareColorTable(List colors, std::FILE *file, int n) {
   const int count = static_cast<int>(ListLength(colors));
-  Emit(file, "    icon_pixels_%d : xlibr5.pixellist( 1 .. %d );\n", n, count);
-  Emit(file, "    icon_chars_%d : xlibr5.stringlist( 1 .. %d ) := (\n", n, count);
+  Emit(file, "    icon_pixels_%d : xlibr5.pixellist( 1 .. %d );\n"_ada, n, count);
+  Emit(file, "    icon_chars_%d : xlibr5.stringlist( 1 .. %d ) := (\n"_ada, n, count);
   int i = 0;
   for (const ListItem *node = ListFirstNode(colors); node != nullptr; node = node->next) {
     ++i;
-    Emit(file, "      %d => new string'( \"%s\" )%s\n", i,
+    Emit(file, "      %d => new string'( \"%s\" )%s\n"_ada, i,
          static_cast<const ColorAssignment *>(node->data)->chars, i == count ? " );" : ",");
   }
 }
@@ -80,21 +80,21 @@ static void DeclareWorkingVariables(std::FILE *file, int n) {
        "    icon_image_%d : xlibr5.image_ptr;\n"
        "    icon_args_%d : xtr5.arglist( 1 .. 1 );\n"
        "    icon_dummy_%d : xlibr5.int;\n"
-       "    icon_data_%d : xlibr5.unsignedcharlist_ptr;\n",
+       "    icon_data_%d : xlibr5.unsignedcharlist_ptr;\n"_ada,
        n, n, n, n, n, n, n, n, n, n, n);
 }
 
 void icon_declare(const KindRec *value, const NamedSetting *argument, std::FILE *file, int n) {
   const auto *icon = static_cast<const IconValue *>(value);
   argument_declare(argument, file, n);
-  Emit(file, "    %s : %s;\n", icon_varname(n).c_str(), argument_object_type(ICON));
+  Emit(file, "    %s : %s;\n"_ada, icon_varname(n).c_str(), argument_object_type(ICON));
   DeclareRows(icon->value, file, n);
   if (ListLength(icon->colors) == 0) {
     DeclareDefaultColors(file, n);
   } else {
     DeclareColorTable(icon->colors, file, n);
   }
-  Emit(file, "    icon_chrlen_%d : constant integer := %d;\n", n, CellWidth(icon->colors));
+  Emit(file, "    icon_chrlen_%d : constant integer := %d;\n"_ada, n, CellWidth(icon->colors));
   DeclareWorkingVariables(file, n);
 }
 
@@ -121,18 +121,18 @@ static std::vector<ColorValue> IconColors(List assignments) {
 }
 
 static void SetColors(const std::vector<ColorValue> &colors, std::FILE *file, int n) {
-  Emit(file, "    declare\n");
+  Emit(file, "    declare\n"_ada);
   int i = 0;
   for (const ColorValue &color : colors) {
     color_declare(&color, nullptr, file, ++i);
   }
-  Emit(file, "    begin\n");
+  Emit(file, "    begin\n"_ada);
   i = 0;
   for (const ColorValue &color : colors) {
     color_setarg(&color, nullptr, file, ++i);
-    Emit(file, "    icon_pixels_%d( %d ) := %s;\n", n, i, color_varname(i).c_str());
+    Emit(file, "    icon_pixels_%d( %d ) := %s;\n"_ada, n, i, color_varname(i).c_str());
   }
-  Emit(file, "    end;\n");
+  Emit(file, "    end;\n"_ada);
 }
 
 static void FetchSurroundings(std::FILE *file, int n) {
@@ -140,7 +140,7 @@ static void FetchSurroundings(std::FILE *file, int n) {
        "    XtR5.SetArg( icon_args_%d( 1 ),\n"
        "                 Xmdef.Ndepth,\n"
        "                 icon_depth_%d'address );\n"
-       "    XtR5.GetValues( %s, icon_args_%d, 1 );\n",
+       "    XtR5.GetValues( %s, icon_args_%d, 1 );\n"_ada,
        n, n, child_self_or_parent, n);
   Emit(file,
        "    icon_display_%d := XtR5.DisplayOfObject( self );\n"
@@ -148,7 +148,7 @@ static void FetchSurroundings(std::FILE *file, int n) {
        "    icon_root_%d    :=\n"
        "      XlibR5.RootWindowOfScreen( icon_screen_%d );\n"
        "    icon_visual_%d  :=\n"
-       "      XlibR5.DefaultVisualOfScreen( icon_screen_%d );\n",
+       "      XlibR5.DefaultVisualOfScreen( icon_screen_%d );\n"_ada,
        n, n, n, n, n, n);
 }
 
@@ -164,7 +164,7 @@ static void CreateImage(std::FILE *file, int n) {
        "                          icon_strlen_%d / icon_chrlen_%d,\n"
        "                          icon_strings_%d'length,\n"
        "                          xlibr5.bitmappad( icon_display_%d ),\n"
-       "                          0 );\n",
+       "                          0 );\n"_ada,
        n, n, n, n, n, n, n, n);
   Emit(file,
        "    icon_data_%d :=\n"
@@ -172,7 +172,7 @@ static void CreateImage(std::FILE *file, int n) {
        "        1 .. icon_image_%d.height *\n"
        "             icon_image_%d.bytes_per_line );\n"
        "    icon_image_%d.data :=\n"
-       "      icon_data_%d( icon_data_%d'first )'address;\n",
+       "      icon_data_%d( icon_data_%d'first )'address;\n"_ada,
        n, n, n, n, n, n);
 }
 
@@ -192,7 +192,7 @@ static void DrawCells(std::FILE *file, int n) {
        "          end if;\n"
        "        end loop;\n"
        "      end loop;\n"
-       "    end loop;\n",
+       "    end loop;\n"_ada,
        n, n, n, n, n, n, n, n, n, n, n);
 }
 
@@ -203,13 +203,13 @@ static void CopyToPixmap(std::FILE *file, int n) {
        "                               icon_root_%d,\n"
        "                               icon_image_%d.width,\n"
        "                               icon_image_%d.height,\n"
-       "                               icon_image_%d.depth );\n",
+       "                               icon_image_%d.depth );\n"_ada,
        name.c_str(), n, n, n, n, n);
   Emit(file,
        "    icon_gc_%d := xlibr5.creategc( icon_display_%d,\n"
        "                                   icon_root_%d,\n"
        "                                   0,\n"
-       "                                   icon_gcvalues_%d );\n",
+       "                                   icon_gcvalues_%d );\n"_ada,
        n, n, n, n);
   Emit(file,
        "    xlibr5.putimage( icon_display_%d,\n"
@@ -218,9 +218,9 @@ static void CopyToPixmap(std::FILE *file, int n) {
        "                     icon_image_%d,\n"
        "                     0, 0, 0, 0,\n"
        "                     icon_image_%d.width,\n"
-       "                     icon_image_%d.height );\n",
+       "                     icon_image_%d.height );\n"_ada,
        n, name.c_str(), n, n, n, n);
-  Emit(file, "    xlibr5.freegc( icon_display_%d, icon_gc_%d );\n", n, n);
+  Emit(file, "    xlibr5.freegc( icon_display_%d, icon_gc_%d );\n"_ada, n, n);
 }
 
 void icon_setarg(const KindRec *value, const NamedSetting *argument, std::FILE *file, int n) {
@@ -234,5 +234,5 @@ void icon_setarg(const KindRec *value, const NamedSetting *argument, std::FILE *
 
 // The pixmap holds a copy of the image.
 void icon_cleanup(std::FILE *file, int n) {
-  Emit(file, "    icon_dummy_%d := xlibr5.destroyimage( icon_image_%d );\n", n, n);
+  Emit(file, "    icon_dummy_%d := xlibr5.destroyimage( icon_image_%d );\n"_ada, n, n);
 }

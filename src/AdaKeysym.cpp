@@ -6,7 +6,7 @@
 #include "AdaArgument.h"
 #include "Emit.h"
 
-std::string keysym_varname(int n) { return ExpressionFormat("keysym_%d", n); }
+std::string keysym_varname(int n) { return ExpressionFormat("keysym_%d"_ada, n); }
 
 std::string keysym_varptr(int n) { return ExpressionAddress(keysym_varname(n)); }
 
@@ -18,10 +18,10 @@ void keysym_declare(const KindRec *value, const NamedSetting *argument, std::FIL
   const char *type = argument_object_type(KEYSYM);
   argument_declare(argument, file, n);
   if (IsOneCharacter(text)) {
-    Emit(file, "    %s : constant %s := %s( character'pos( '%s' ) );\n", name.c_str(), type, type,
-         text);
+    Emit(file, "    %s : constant %s := %s( character'pos( '%s' ) );\n"_ada, name.c_str(), type,
+         type, text);
   } else {
-    Emit(file, "    %s : constant %s := XK.K_%s;\n", name.c_str(), type, text);
+    Emit(file, "    %s : constant %s := XK.K_%s;\n"_ada, name.c_str(), type, text);
   }
 }
 

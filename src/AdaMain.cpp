@@ -101,12 +101,13 @@ static void WriteContext(std::FILE *file) {
              "with XrmR5;\n"
              "with Xt;\n"
              "with XtR5;\n"
-             "with Xm1_2_2;\n");
+             "with Xm1_2_2;\n"_ada);
   if (ListLength(shellinfo) == 0) {
     ErrorMessage(kImmediate, "No top-level widgets or no shell arguments given");
   }
-  ForEachShell(
-      [file](const Kivu_ShellInfo &shell) { Emit(file, "with %s;\n", ShellUnit(shell).c_str()); });
+  ForEachShell([file](const Kivu_ShellInfo &shell) {
+    Emit(file, "with %s;\n"_ada, ShellUnit(shell).c_str());
+  });
 }
 
 // The class under which resource files name the application: "demo_main" is "Demo_main".
@@ -151,15 +152,15 @@ static constexpr char kInitialisation[] =
 )Ada";
 
 static void WriteInitialisation(std::FILE *file) {
-  Emit(file, "procedure %s is\n", main_filename.c_str());
-  Emit(file, "  app_class : constant string := \"%s\";\n", ApplicationClass().c_str());
-  Emit(file, "%s", kDeclarations);
+  Emit(file, "procedure %s is\n"_ada, main_filename.c_str());
+  Emit(file, "  app_class : constant string := \"%s\";\n"_ada, ApplicationClass().c_str());
+  Emit(file, "%s"_ada, kDeclarations);
   if (NeedsOtherShell()) {
-    Emit(file, "  other_shell : xtr5.widget;\n");
+    Emit(file, "  other_shell : xtr5.widget;\n"_ada);
   }
-  Emit(file, "%s", kInitialisation);
+  Emit(file, "%s"_ada, kInitialisation);
   ForEachShell([file](const Kivu_ShellInfo &shell) {
-    Emit(file, "  %s.AppShell := app_shell;\n", ShellExpression(shell).c_str());
+    Emit(file, "  %s.AppShell := app_shell;\n"_ada, ShellExpression(shell).c_str());
   });
 }
 
@@ -174,14 +175,14 @@ static void WriteApplicationShell(std::FILE *file, const Kivu_ShellInfo &shell, 
        "                          widgets );\n"
        "  %s.Child_Lists( %d ) := widgets;\n"
        "  XtR5.ManageChild( widgets( widgets'first ) );\n"
-       "  XtR5.RealizeWidget( app_shell );\n",
+       "  XtR5.RealizeWidget( app_shell );\n"_ada,
        package.c_str(), index, package.c_str(), shell.childName, package.c_str(), index);
 }
 
 // The first application shell is the one that the toolkit's initialisation made.
 static void WriteApplicationShells(std::FILE *file) {
   if (ListLength(shellinfo) == 0) {
-    Emit(file, "  XtR5.RealizeWidget( app_shell );\n");
+    Emit(file, "  XtR5.RealizeWidget( app_shell );\n"_ada);
   }
   bool written = false;
   ForEachShell([file, &written](const Kivu_ShellInfo &shell) {
@@ -218,14 +219,14 @@ static void WritePopupShell(std::FILE *file, const Kivu_ShellInfo &shell, int in
        "  other_shell := XtR5.CreatePopupShell( \"%s\",\n"
        "                                        %s,\n"
        "                                        app_shell,\n"
-       "                                        args );\n",
+       "                                        args );\n"_ada,
        shell.shellName, class_rec_name_value_expr(shell.shellClass).c_str());
   Emit(file,
        "  %s.FetchWidget( other_shell,\n"
        "                          \"%s\",\n"
        "                          widgets );\n"
        "  %s.Shells( %d ) := other_shell;\n"
-       "  %s.Child_Lists( %d ) := widgets;\n",
+       "  %s.Child_Lists( %d ) := widgets;\n"_ada,
        package.c_str(), shell.childName, package.c_str(), index, package.c_str(), index);
 }
 
@@ -237,7 +238,7 @@ static void WriteOtherShell(std::FILE *file, const Kivu_ShellInfo &shell, int in
     WritePopupShell(file, shell, index);
     if (popup.pop_up) {
       Emit(file, "  XtR5.ManageChild( widgets( widgets'first ) );\n"
-                 "  XtR5.Popup( other_shell, Xt.GrabNone );\n");
+                 "  XtR5.Popup( other_shell, Xt.GrabNone );\n"_ada);
     }
     return;
   }
@@ -261,10 +262,10 @@ void OutputMain(std::FILE *file) {
   WriteOtherShells(file);
   Emit(file,
        "  XtR5.AppMainLoop( app_context );\n"
-       "end %s;\n",
+       "end %s;\n"_ada,
        main_filename.c_str());
   if (apex) {
-    Emit(file, "pragma Main;\n");
+    Emit(file, "pragma Main;\n"_ada);
   }
 }
 

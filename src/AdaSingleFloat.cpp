@@ -6,7 +6,7 @@
 #include "AdaArgument.h"
 #include "Emit.h"
 
-std::string single_float_varname(int n) { return ExpressionFormat("single_float_%d", n); }
+std::string single_float_varname(int n) { return ExpressionFormat("single_float_%d"_ada, n); }
 
 std::string single_float_varptr(int n) { return ExpressionAddress(single_float_varname(n)); }
 

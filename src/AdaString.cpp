@@ -62,7 +62,9 @@ static void AppendCode(StringExpression *expression, unsigned char c) {
     expression->in_quote = false;
   }
   BeginPiece(expression);
-  if (ada95 || c <= kLastAscii) {
+  if (c == '\0') {
+    expression->text += "      character'val(   0 )"; // ends every text
+  } else if (ada95 || c <= kLastAscii) {
     expression->text += ExpressionFormat("      character'val( %3u )", c);
   } else {
     ReportUnrepresentable(expression, c);
@@ -95,7 +97,7 @@ std::string string_value_expr(const char *text) {
   }
 }
 
-std::string string_varname(int n) { return ExpressionFormat("string_%d", n); }
+std::string string_varname(int n) { return ExpressionFormat("string_%d"_ada, n); }
 
 std::string string_varptr(int n) { return ExpressionFirstAddress(string_varname(n)); }
 
@@ -104,7 +106,7 @@ void string_declare(const KindRec *value, const NamedSetting *argument, std::FIL
   argument_declare(argument, file, n);
   Emit(file,
        "    %s : constant string :=\n"
-       "%s;\n",
+       "%s;\n"_ada,
        string_varname(n).c_str(), string_value_expr(text).c_str());
 }
 

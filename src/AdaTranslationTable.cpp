@@ -6,18 +6,20 @@
 #include "AdaArgument.h"
 #include "Emit.h"
 
-std::string translation_table_varname(int n) { return ExpressionFormat("translation_table_%d", n); }
+std::string translation_table_varname(int n) {
+  return ExpressionFormat("translation_table_%d"_ada, n);
+}
 
 std::string translation_table_varptr(int n) { return translation_table_varname(n); }
 
 static void DeclareRows(List rows, std::FILE *file, int n) {
   if (ListLength(rows) == 0) {
-    Emit(file, "    translation_table_string_%d : constant string := \"\";\n", n);
+    Emit(file, "    translation_table_string_%d : constant string := \"\";\n"_ada, n);
     return;
   }
-  Emit(file, "    translation_table_string_%d : constant string :=\n", n);
+  Emit(file, "    translation_table_string_%d : constant string :=\n"_ada, n);
   for (const ListItem *node = ListFirstNode(rows); node != nullptr; node = node->next) {
-    Emit(file, "        \"%s\" & ASCII.LF %s\n", static_cast<const char *>(node->data),
+    Emit(file, "        \"%s\" & ASCII.LF %s\n"_ada, static_cast<const char *>(node->data),
          node->next == nullptr ? ");" : "&");
   }
 }
@@ -25,7 +27,7 @@ static void DeclareRows(List rows, std::FILE *file, int n) {
 void translation_table_declare(const KindRec *value, const NamedSetting *argument, std::FILE *file,
                                int n) {
   argument_declare(argument, file, n);
-  Emit(file, "    %s : %s;\n", translation_table_varname(n).c_str(),
+  Emit(file, "    %s : %s;\n"_ada, translation_table_varname(n).c_str(),
        argument_object_type(TRANSLATION_TABLE));
   DeclareRows(static_cast<const TransTableValue *>(value)->value, file, n);
 }
@@ -35,7 +37,7 @@ void translation_table_setarg(const KindRec * /*value*/, const NamedSetting *arg
   const std::string name = translation_table_varname(n);
   Emit(file,
        "    %s :=\n"
-       "      xtr5.parsetranslationtable( translation_table_string_%d );\n",
+       "      xtr5.parsetranslationtable( translation_table_string_%d );\n"_ada,
        name.c_str(), n);
   argument_setarg(name.c_str(), argument, file, n);
 }

@@ -11,7 +11,7 @@
 #include "AdaArgument.h"
 #include "Emit.h"
 
-std::string wide_character_varname(int n) { return ExpressionFormat("wide_character_%d", n); }
+std::string wide_character_varname(int n) { return ExpressionFormat("wide_character_%d"_ada, n); }
 
 std::string wide_character_varptr(int n) {
   return ExpressionFirstAddress(wide_character_varname(n));
@@ -46,11 +46,11 @@ void wide_character_declare(const KindRec *value, const NamedSetting *argument, 
   const char *type = argument_object_type(WIDE_CHARACTER);
   argument_declare(argument, file, n);
   if (wide.empty()) {
-    Emit(file, "    %s : constant %s ( 1 .. 1 ) := ( others => 0 );\n", name.c_str(), type);
+    Emit(file, "    %s : constant %s ( 1 .. 1 ) := ( others => 0 );\n"_ada, name.c_str(), type);
   } else {
     Emit(file,
          "    %s : constant %s :=\n"
-         "%s;\n",
+         "%s;\n"_ada,
          name.c_str(), type, wide_character_value_expr(wide.data()).c_str());
   }
 }

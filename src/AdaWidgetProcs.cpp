@@ -174,7 +174,7 @@ static void BlockDeclareAndSet(const ArgumentBlock &block, std::FILE *file) {
   for (const NumberedArgument &entry : block.arguments) {
     ValueDeclareArgument(entry.argument->value, entry.argument, file, entry.n);
   }
-  Emit(file, "    begin\n");
+  Emit(file, "    begin\n"_ada);
   for (const NumberedArgument &entry : block.arguments) {
     ValueSetArgument(entry.argument->value, entry.argument, file, entry.n);
   }
@@ -191,53 +191,53 @@ static void BlockCleanup(const ArgumentBlock &block, std::FILE *file) {
 static void WidgetCreateProcDecl(const WidgetDef *widget, std::FILE *file, bool is_body) {
   Emit(file,
        "  function kivu_create_%s( parent : in xtr5.widget )\n"
-       "    return xtr5.widgetlist_ptr%s\n",
+       "    return xtr5.widgetlist_ptr%s\n"_ada,
        WidgetAdaName(widget), is_body ? " is" : ";");
   if (is_body) {
-    Emit(file, "    self : xtr5.widget;\n");
+    Emit(file, "    self : xtr5.widget;\n"_ada);
   }
 }
 
 static void WidgetCreateProcEnd(const WidgetDef *widget, std::FILE *file) {
-  Emit(file, "  end kivu_create_%s;\n", WidgetAdaName(widget));
+  Emit(file, "  end kivu_create_%s;\n"_ada, WidgetAdaName(widget));
 }
 
 static void WidgetPostProcDecl(const WidgetDef *widget, std::FILE *file, bool is_body) {
   Emit(file,
        "  procedure kivu_post_%s( parent : in xtr5.widget;\n"
        "      widgets : in xtr5.widgetlist_ptr;\n"
-       "      index : in xtr5.int )%s\n",
+       "      index : in xtr5.int )%s\n"_ada,
        WidgetAdaName(widget), is_body ? " is" : ";");
 }
 
 static void WidgetPostProcEnd(const WidgetDef *widget, std::FILE *file) {
   Emit(file,
        "    null;\n"
-       "  end kivu_post_%s;\n",
+       "  end kivu_post_%s;\n"_ada,
        WidgetAdaName(widget));
 }
 
 static void WidgetCreateCtlsDecl(std::FILE *file, int children) {
   Emit(file,
        "    child_lists : array( 1 .. %d ) of xtr5.widgetlist_ptr;\n"
-       "    child_count : integer := 1;\n",
+       "    child_count : integer := 1;\n"_ada,
        children);
 }
 
 static void WidgetCreateArgsDecl(std::FILE *file, int slots) {
-  Emit(file, "    args : xtr5.arglist( 1 .. %d );\n", slots);
+  Emit(file, "    args : xtr5.arglist( 1 .. %d );\n"_ada, slots);
 }
 
 static void WidgetEmitCountDescendants(std::FILE *file) {
   Emit(file, "    for child_index in child_lists'range loop\n"
              "      child_count := child_count +\n"
              "                     child_lists( child_index )'length;\n"
-             "    end loop;\n");
+             "    end loop;\n"_ada);
 }
 
 static void WidgetDeclareChildList(std::FILE *file) {
   Emit(file, "    declare\n"
-             "      children : xtr5.widgetlist( 1 .. child_count );\n");
+             "      children : xtr5.widgetlist( 1 .. child_count );\n"_ada);
 }
 
 static void WidgetMergeChildLists(std::FILE *file) {
@@ -252,54 +252,55 @@ static void WidgetMergeChildLists(std::FILE *file) {
              "        child_count := child_count +\n"
              "                       child_lists( child_index )'length;\n"
              "        freewidgetlist( child_lists( child_index ) );\n"
-             "      end loop;\n");
+             "      end loop;\n"_ada);
 }
 
 static void WidgetTrivialChildList(std::FILE *file) {
   Emit(file, "    declare\n"
              "      children : xtr5.widgetlist( 1 .. 1 ) := ( 1 => self );\n"
-             "    begin\n");
+             "    begin\n"_ada);
 }
 
 static void WidgetReturnChildList(const WidgetDef *widget, std::FILE *file) {
   if (widgets_record_suffix.has_value() && current_top_level != nullptr &&
       current_top_level->name != nullptr) {
-    Emit(file, "      %s.%s := self;\n", WidgetAdaName(current_top_level), WidgetAdaName(widget));
+    Emit(file, "      %s.%s := self;\n"_ada, WidgetAdaName(current_top_level),
+         WidgetAdaName(widget));
   }
   Emit(file, "      return new xtr5.widgetlist'( children );\n"
-             "    end;\n");
+             "    end;\n"_ada);
 }
 
 static void WidgetCallXtSetvalues(std::FILE *file, const char *expression, int slots) {
-  Emit(file, "    XtR5.SetValues( %s, args, %d );\n", expression, slots);
+  Emit(file, "    XtR5.SetValues( %s, args, %d );\n"_ada, expression, slots);
 }
 
 // A child of a widget that needs its children first is made by the widget's own parent.
 static void WidgetChildCreate(const WidgetDef *child, std::FILE *file, int ordinal, bool managed,
                               bool children_first) {
-  Emit(file, "    child_lists( %d ) := kivu_create_%s( %s );\n", ordinal, WidgetAdaName(child),
+  Emit(file, "    child_lists( %d ) := kivu_create_%s( %s );\n"_ada, ordinal, WidgetAdaName(child),
        children_first ? "parent" : "self");
   if (managed) {
-    Emit(file, "    xtr5.managechild( child_lists( %d )( 1 ) );\n", ordinal);
+    Emit(file, "    xtr5.managechild( child_lists( %d )( 1 ) );\n"_ada, ordinal);
   }
 }
 
 static void WidgetChildPostProc(const WidgetDef *child, std::FILE *file, int offset) {
-  Emit(file, "    kivu_post_%s( widgets( index ), widgets, index + %d );\n", WidgetAdaName(child),
-       offset);
+  Emit(file, "    kivu_post_%s( widgets( index ), widgets, index + %d );\n"_ada,
+       WidgetAdaName(child), offset);
 }
 
 static void WidgetSetSubmenuArg(std::FILE *file, int slot, int ordinal) {
   Emit(file,
        "    xtr5.setarg( args( %d ),\n"
        "                 xmdef.nsubmenuid,\n"
-       "                 child_lists( %d )( 1 ) );\n",
+       "                 child_lists( %d )( 1 ) );\n"_ada,
        slot, ordinal);
 }
 
 static void WidgetSetTopLevel(std::FILE *file) {
   Emit(file, "    if current_top_level = xtr5.xtnull then      current_top_level := self;\n"
-             "    end if;\n");
+             "    end if;\n"_ada);
 }
 
 static void WidgetCallMotifClass(const WidgetDef *widget, std::FILE *file, int slots) {
@@ -308,7 +309,7 @@ static void WidgetCallMotifClass(const WidgetDef *widget, std::FILE *file, int s
        "              parent,\n"
        "              \"%s\",\n"
        "              args,\n"
-       "              %d );\n",
+       "              %d );\n"_ada,
        LessPrefix(widget->type->name, kToolkitPrefix), widget->gadget == GADGET ? "Gadget" : "",
        widget->name, slots);
 }
@@ -325,7 +326,7 @@ static void WidgetCallUserCreate(const WidgetDef *widget, std::FILE *file, int s
        "              parent,\n"
        "              \"%s\",\n"
        "              args,\n"
-       "              %d );\n",
+       "              %d );\n"_ada,
        function.c_str(), widget->name, slots);
 }
 
@@ -368,13 +369,14 @@ static void WidgetAddCallback(const char *expression, const CallbackValue *callb
                               const ReasonName *reason, std::FILE *file, int n) {
   const char *base = package_base.c_str();
   if (ReasonIsCreateCallback(callback->name)) {
-    Emit(file, "    %s_cb_proc( %s, %d, create_callback_struct'address );\n", base, expression, n);
+    Emit(file, "    %s_cb_proc( %s, %d, create_callback_struct'address );\n"_ada, base, expression,
+         n);
   } else if (IsPredefined(reason)) {
-    Emit(file, "    xtr5.addcallback( %s, %s, %s_cb_proc'address, %d );\n", expression,
+    Emit(file, "    xtr5.addcallback( %s, %s, %s_cb_proc'address, %d );\n"_ada, expression,
          PredefinedReasonName(callback->name).c_str(), base, n);
   } else {
-    Emit(file, "    xtr5.addcallback( %s, arg_%d, %s_cb_proc'address, %d );\n", expression, n, base,
-         n);
+    Emit(file, "    xtr5.addcallback( %s, arg_%d, %s_cb_proc'address, %d );\n"_ada, expression, n,
+         base, n);
   }
 }
 
@@ -422,12 +424,12 @@ static void WidgetFetchAutoChild(const WidgetDef *widget, const WidgetDef *child
   if (function != nullptr && constant != nullptr) {
     Emit(file,
          "    %s :=\n"
-         "      Xm1_2_2.%s( self, Xm1_2_2.%s );\n",
+         "      Xm1_2_2.%s( self, Xm1_2_2.%s );\n"_ada,
          target, LessPrefix(function, kToolkitPrefix), LessPrefix(constant, kToolkitPrefix));
   } else {
     Emit(file,
          "    %s :=\n"
-         "      XtR5.NameToWidget( self, \"*%s\" );\n",
+         "      XtR5.NameToWidget( self, \"*%s\" );\n"_ada,
          target, child->name);
   }
 }
@@ -435,13 +437,13 @@ static void WidgetFetchAutoChild(const WidgetDef *widget, const WidgetDef *child
 static void WidgetSetAutoChild(List arguments, std::FILE *file, const char *target, bool post) {
   const ArgumentBlock block =
       BlockOfPhases(WidgetPhasedArguments(arguments), post ? kSecond : kBefore | kAfter);
-  Emit(file, "    declare\n");
+  Emit(file, "    declare\n"_ada);
   WidgetCreateArgsDecl(file, WidgetCountArguments(arguments));
   BlockDeclareAndSet(block, file);
   WidgetCallXtSetvalues(file, target, block.slots);
   BlockCleanup(block, file);
   Emit(file, "      null;\n"
-             "    end;\n");
+             "    end;\n"_ada);
 }
 
 static void WidgetAutoCreatedSet(const WidgetDef *widget, const WidgetDef *child, std::FILE *file,
@@ -452,7 +454,7 @@ static void WidgetAutoCreatedSet(const WidgetDef *widget, const WidgetDef *child
   const bool has_callbacks = WidgetCountCallbacks(callbacks.get()) > 0;
   std::string target = "auto_child";
   if (!post) {
-    Emit(file, "    child_lists( %d ) := new xtr5.widgetlist( 1 .. 1 );\n", ordinal);
+    Emit(file, "    child_lists( %d ) := new xtr5.widgetlist( 1 .. 1 );\n"_ada, ordinal);
     target = "child_lists( " + std::to_string(ordinal) + " )( 1 )";
   }
   const ExpressionScope scope(WidgetChildrenAreGadgets(widget) ? "self" : target.c_str());
@@ -460,7 +462,7 @@ static void WidgetAutoCreatedSet(const WidgetDef *widget, const WidgetDef *child
   if (!has_arguments && !has_callbacks) {
     return;
   }
-  Emit(file, "    if %s /= XtR5.XtNULL then\n", target.c_str());
+  Emit(file, "    if %s /= XtR5.XtNULL then\n"_ada, target.c_str());
   if (has_callbacks) {
     WidgetClientDataInit(target.c_str(), callbacks.get(), file, counter, post);
   }
@@ -468,7 +470,7 @@ static void WidgetAutoCreatedSet(const WidgetDef *widget, const WidgetDef *child
     WidgetSetAutoChild(arguments.get(), file, target.c_str(), post);
   }
   Emit(file, "      null;\n"
-             "    end if;\n");
+             "    end if;\n"_ada);
 }
 
 // -- Creation functions ------------------------------------------------------------------------
@@ -502,7 +504,7 @@ static void WidgetCreateSelf(const WidgetDef *widget, const PhasedArguments &arg
   const bool has_block = !block.arguments.empty();
   int slots = block.slots;
   if (has_block) {
-    Emit(file, "    declare\n");
+    Emit(file, "    declare\n"_ada);
     BlockDeclareAndSet(block, file);
   }
   if (with_submenu) {
@@ -512,7 +514,7 @@ static void WidgetCreateSelf(const WidgetDef *widget, const PhasedArguments &arg
   WidgetSetTopLevel(file);
   if (has_block) {
     BlockCleanup(block, file);
-    Emit(file, "    end;\n");
+    Emit(file, "    end;\n"_ada);
   }
 }
 
@@ -523,11 +525,11 @@ static void WidgetSetArguments(const PhasedArguments &arguments, unsigned phases
   if (block.arguments.empty()) {
     return;
   }
-  Emit(file, "    declare\n");
+  Emit(file, "    declare\n"_ada);
   BlockDeclareAndSet(block, file);
   WidgetCallXtSetvalues(file, expression, block.slots);
   BlockCleanup(block, file);
-  Emit(file, "    end;\n");
+  Emit(file, "    end;\n"_ada);
 }
 
 static void WidgetReturnSubtree(const WidgetDef *widget, std::FILE *file, bool has_children) {
@@ -552,7 +554,7 @@ static void WidgetReturnSubtree(const WidgetDef *widget, std::FILE *file, bool h
   WidgetCreateProcDecl(widget, file, true);
   WidgetCreateCtlsDecl(file, children);
   WidgetCreateArgsDecl(file, WidgetCountArguments(arguments.get()) + (children_first ? 1 : 0));
-  Emit(file, "  begin\n");
+  Emit(file, "  begin\n"_ada);
   if (children_first) {
     WidgetCallCreateProcs(widget, controls, file, true, counter);
   }
@@ -638,7 +640,7 @@ static void WidgetCallPostProcs(const WidgetDef *widget, List controls, std::FIL
   const bool children_first = WidgetChildrenFirst(widget);
   WidgetPostProcDecl(widget, file, true);
   WidgetCreateArgsDecl(file, WidgetCountArguments(arguments.get()) + (children_first ? 1 : 0));
-  Emit(file, "  begin\n");
+  Emit(file, "  begin\n"_ada);
   if (children_first) {
     WidgetCallPostProcs(widget, controls, file, true, counter);
   }

@@ -67,14 +67,14 @@ template <typename Action> static void ForEachCreateProc(Action action) {
 // -- Widgets specification ---------------------------------------------------------------------
 
 static void WriteGenericFormals(std::FILE *file) {
-  Emit(file, "generic\n");
+  Emit(file, "generic\n"_ada);
   ForEachCreateProc([file](const std::string &name) {
     Emit(file,
          "  with function %s(\n"
          "    parent : in xtr5.widget;\n"
          "    name   : in string;\n"
          "    args   : in xtr5.arglist;\n"
-         "    nargs  : in xtr5.int ) return xtr5.widget;\n",
+         "    nargs  : in xtr5.int ) return xtr5.widget;\n"_ada,
          name.c_str());
   });
 }
@@ -88,7 +88,7 @@ static void WidgetEmitRecordField(const WidgetDef *widget, std::FILE *file) {
     return;
   }
   record->rec = current_top_level->name;
-  Emit(file, "    %s : XtR5.Widget := XtR5.XtNULL;\n", WidgetAdaName(widget));
+  Emit(file, "    %s : XtR5.Widget := XtR5.XtNULL;\n"_ada, WidgetAdaName(widget));
   const FlatList children(WidgetFlatControlsList(widget));
   for (const ListItem *node = ListFirstNode(children.get()); node != nullptr; node = node->next) {
     const WidgetDef *child = ControlWidget(node->data);
@@ -101,14 +101,14 @@ static void WidgetEmitRecordField(const WidgetDef *widget, std::FILE *file) {
 static void WriteTopLevelRecord(const WidgetDef *widget, std::FILE *file) {
   const char *top = WidgetAdaName(widget);
   const char *suffix = widgets_record_suffix->c_str();
-  Emit(file, "  type %s_%s is record\n", top, suffix);
+  Emit(file, "  type %s_%s is record\n"_ada, top, suffix);
   WidgetClearEmitRecord(widget);
   WidgetEmitRecordField(widget, file);
   Emit(file,
        "  end record;\n"
        "  %s : %s_%s;\n"
        "  function Create_%s( parent : in XtR5.Widget )\n"
-       "    return %s_%s;\n",
+       "    return %s_%s;\n"_ada,
        top, top, suffix, top, top, suffix);
 }
 
@@ -117,7 +117,7 @@ static void WriteShellNames(std::FILE *file, const char *Kivu_ShellInfo::*name) 
   int i = 0;
   for (const ListItem *node = ListFirstNode(shellinfo); node != nullptr; node = node->next) {
     const auto *shell = static_cast<const Kivu_ShellInfo *>(node->data);
-    Emit(file, "    %d => new String'( \"%s\" )%s\n", ++i, shell->*name,
+    Emit(file, "    %d => new String'( \"%s\" )%s\n"_ada, ++i, shell->*name,
          node->next != nullptr ? ", " : " );");
   }
 }
@@ -132,17 +132,17 @@ static constexpr char kEmptyShellTables[] =
 static void WriteShellTables(std::FILE *file) {
   const int count = static_cast<int>(ListLength(shellinfo));
   if (count == 0) {
-    Emit(file, "%s", kEmptyShellTables);
+    Emit(file, "%s"_ada, kEmptyShellTables);
     return;
   }
   Emit(file,
        "  AppShell    : XtR5.Widget;\n"
        "  Shells      : XtR5.WidgetList( 1 .. %d );\n"
        "  Child_Lists : array( 1 .. %d ) of XtR5.WidgetList_Ptr;\n"
-       "  Child_Names : constant XlibR5.StringList := (\n",
+       "  Child_Names : constant XlibR5.StringList := (\n"_ada,
        count, count);
   WriteShellNames(file, &Kivu_ShellInfo::childName);
-  Emit(file, "  Shell_Names : constant XlibR5.StringList := (\n");
+  Emit(file, "  Shell_Names : constant XlibR5.StringList := (\n"_ada);
   WriteShellNames(file, &Kivu_ShellInfo::shellName);
 }
 
@@ -164,18 +164,18 @@ static void WriteWidgetsSpec(std::FILE *file) {
   const std::string package = WidgetsPackage();
   Emit(file, "with XlibR5;\n"
              "with XtR5;\n"
-             "with Xm1_2_2;\n");
+             "with Xm1_2_2;\n"_ada);
   if (WidgetsAreGeneric()) {
     WriteGenericFormals(file);
   }
-  Emit(file, "package %s is\n", package.c_str());
+  Emit(file, "package %s is\n"_ada, package.c_str());
   if (widgets_record_suffix.has_value()) {
     ForEachTopLevel([file](const WidgetDef *top) { WriteTopLevelRecord(top, file); });
   }
-  Emit(file, "%s", kFetchDeclaration);
+  Emit(file, "%s"_ada, kFetchDeclaration);
   WriteShellTables(file);
-  Emit(file, "%s", kShellDeclarations);
-  Emit(file, "end %s;\n", package.c_str());
+  Emit(file, "%s"_ada, kShellDeclarations);
+  Emit(file, "end %s;\n"_ada, package.c_str());
 }
 
 // -- Client data package -----------------------------------------------------------------------
@@ -198,7 +198,7 @@ static void WriteClientDataSpec(std::FILE *file) {
        "with XtR5;\n"
        "with Xm1_2_2;\n"
        "with Xmdef;\n"
-       "package %s_client_data is\n",
+       "package %s_client_data is\n"_ada,
        base);
   unsigned counter = 0;
   ForEachTopLevel(
@@ -209,10 +209,10 @@ static void WriteClientDataSpec(std::FILE *file) {
          "    w           : in xtr5.widget;\n"
          "    client_data : in xtr5.argval;\n"
          "    call_data   : in xtr5.pointer );\n"
-         "  pragma %s(c, %s_cb_proc);\n",
+         "  pragma %s(c, %s_cb_proc);\n"_ada,
          base, CallbackPragma(), base);
   }
-  Emit(file, "end %s_client_data;\n", base);
+  Emit(file, "end %s_client_data;\n"_ada, base);
 }
 
 static void WriteClientDataBody(std::FILE *file) {
@@ -228,7 +228,7 @@ static void WriteClientDataBody(std::FILE *file) {
        "  begin\n"
        "    %s_%s( w, client_data, call_data );\n"
        "  end %s_cb_proc;\n"
-       "end %s_client_data;\n",
+       "end %s_client_data;\n"_ada,
        base, suffix, base, base, base, suffix, base, base);
 }
 
@@ -247,16 +247,16 @@ static void OutputWidgetsSpec(std::FILE *spec, std::FILE *cdspec, std::FILE *cdb
 static void WriteBodyContext(std::FILE *file) {
   Emit(file, "with Xm;\n"
              "with Xmdef;\n"
-             "with unchecked_deallocation;\n");
+             "with unchecked_deallocation;\n"_ada);
   if (AtLeastOneCallback()) {
     Emit(file,
          "with %s_client_data;\n"
-         "use  %s_client_data;\n",
+         "use  %s_client_data;\n"_ada,
          package_base.c_str(), package_base.c_str());
   }
   // Without generic formals the user's creation functions are called where they are declared.
   if (WidgetsAreUserDefined() && forbid_generic_widgets) {
-    Emit(file, "with %s;\n", CallbacksPackage().c_str());
+    Emit(file, "with %s;\n"_ada, CallbacksPackage().c_str());
   }
 }
 
@@ -313,7 +313,7 @@ static void WidgetWriteFetchCase(const WidgetDef *widget, std::FILE *file, unsig
   Emit(file,
        "    %s %s = \"%s\" then\n"
        "      widgets := kivu_create_%s( parent );\n"
-       "      kivu_post_%s( parent, widgets, widgets'first );\n",
+       "      kivu_post_%s( parent, widgets, widgets'first );\n"_ada,
        *counter == 0 ? "if" : "elsif", case_sensitive ? "name" : "upc_name", uil_name.c_str(),
        ada_name, ada_name);
   ++*counter;
@@ -342,7 +342,7 @@ static void WriteFetchBranches(std::FILE *file) {
   ForEachTopLevel(
       [file, &counter](const WidgetDef *top) { WidgetWriteFetchChildren(top, file, &counter); });
   if (counter > 0) {
-    Emit(file, "    end if;\n");
+    Emit(file, "    end if;\n"_ada);
   }
 }
 
@@ -350,16 +350,16 @@ static void WriteFetchProcedure(std::FILE *file) {
   Emit(file, "  procedure FetchWidget(\n"
              "    parent         : in     XtR5.Widget;\n"
              "    name           : in     String;\n"
-             "    widgets_return :    out XtR5.WidgetList_Ptr ) is\n");
+             "    widgets_return :    out XtR5.WidgetList_Ptr ) is\n"_ada);
   if (!case_sensitive) {
-    Emit(file, "    upc_name : constant string := uppercase_str( name );\n");
+    Emit(file, "    upc_name : constant string := uppercase_str( name );\n"_ada);
   }
   Emit(file, "    widgets : xtr5.widgetlist_ptr := null;\n"
              "  begin\n"
-             "    current_top_level := Xtr5.Xtnull;\n");
+             "    current_top_level := Xtr5.Xtnull;\n"_ada);
   WriteFetchBranches(file);
   Emit(file, "    widgets_return := widgets;\n"
-             "  end FetchWidget;\n");
+             "  end FetchWidget;\n"_ada);
 }
 
 static constexpr char kShellFunctions[] =
@@ -410,7 +410,7 @@ static void WidgetWriteCreateTopLevel(const WidgetDef *widget, std::FILE *file) 
        "  begin\n"
        "    FetchWidget( parent, \"%s\", widgets );\n"
        "    return %s;\n"
-       "  end Create_%s;\n",
+       "  end Create_%s;\n"_ada,
        top, top, widgets_record_suffix->c_str(), widget->name, top, top);
 }
 
@@ -431,17 +431,17 @@ static void WriteWidgetSubprograms(std::FILE *file) {
 static void OutputWidgetsBody(std::FILE *file) {
   const std::string package = WidgetsPackage();
   WriteBodyContext(file);
-  Emit(file, "package body %s is\n", package.c_str());
-  Emit(file, "%s", kBodyDeclarations);
+  Emit(file, "package body %s is\n"_ada, package.c_str());
+  Emit(file, "%s"_ada, kBodyDeclarations);
   ForEachTopLevel([file](const WidgetDef *top) { WidgetDeclareCreateProc(top, file); });
   ForEachTopLevel([file](const WidgetDef *top) { WidgetDeclarePostProc(top, file); });
   if (!case_sensitive) {
-    Emit(file, "%s", kUppercaseFunctions);
+    Emit(file, "%s"_ada, kUppercaseFunctions);
   }
   WriteFetchProcedure(file);
-  Emit(file, "%s", ListLength(shellinfo) > 0 ? kShellFunctions : kEmptyShellFunctions);
+  Emit(file, "%s"_ada, ListLength(shellinfo) > 0 ? kShellFunctions : kEmptyShellFunctions);
   WriteWidgetSubprograms(file);
-  Emit(file, "end %s;\n", package.c_str());
+  Emit(file, "end %s;\n"_ada, package.c_str());
 }
 
 void OutputWidgets(std::FILE *spec, std::FILE *body, std::FILE *cdspec, std::FILE *cdbody) {
@@ -454,30 +454,30 @@ void OutputWidgets(std::FILE *spec, std::FILE *body, std::FILE *cdspec, std::FIL
 // package Widgets is new demo_uil(
 //     make_dial => demo_callbacks.make_dial );
 static void WriteInstantiation(std::FILE *file) {
-  Emit(file, "  package Widgets is new %s(\n", WidgetsPackage().c_str());
+  Emit(file, "  package Widgets is new %s(\n"_ada, WidgetsPackage().c_str());
   const std::string callbacks = CallbacksPackage();
   const char *separator = "";
   ForEachCreateProc([file, &callbacks, &separator](const std::string &name) {
-    Emit(file, "%s    %s => %s.%s", separator, name.c_str(), callbacks.c_str(), name.c_str());
+    Emit(file, "%s    %s => %s.%s"_ada, separator, name.c_str(), callbacks.c_str(), name.c_str());
     separator = ",\n";
   });
-  Emit(file, " );\n");
+  Emit(file, " );\n"_ada);
 }
 
 void OutputInstant(std::FILE *file) {
   const std::string widgets = WidgetsPackage();
   const std::string instant = InstantPackage();
   if (WidgetsAreUserDefined()) {
-    Emit(file, "with %s;\n", CallbacksPackage().c_str());
+    Emit(file, "with %s;\n"_ada, CallbacksPackage().c_str());
   }
   Emit(file,
        "with %s;\n"
-       "package %s is\n",
+       "package %s is\n"_ada,
        widgets.c_str(), instant.c_str());
   if (WidgetsAreGeneric()) {
     WriteInstantiation(file);
   } else {
-    Emit(file, "  package Widgets renames %s;\n", widgets.c_str());
+    Emit(file, "  package Widgets renames %s;\n"_ada, widgets.c_str());
   }
-  Emit(file, "end %s;\n", instant.c_str());
+  Emit(file, "end %s;\n"_ada, instant.c_str());
 }

@@ -122,12 +122,12 @@ TEST_F(AdaArgument, CodesThatAreNoKindsArePointers) {
 }
 
 TEST_F(AdaArgument, SmallTexts) {
-  EXPECT_EQ(ExpressionFormat("%s_%d", "a", 3), "a_3");
-  EXPECT_EQ(ExpressionFormat("%s", ""), "");
+  EXPECT_EQ(ExpressionFormat("%s_%d"_ada, "a", 3), "a_3");
+  EXPECT_EQ(ExpressionFormat("%s"_ada, ""), "");
   const std::string longer(5000, 'x');
   std::string closed = longer;
   closed.push_back('.');
-  EXPECT_EQ(ExpressionFormat("%s.", longer.c_str()), closed);
+  EXPECT_EQ(ExpressionFormat("%s."_ada, longer.c_str()), closed);
   EXPECT_EQ(ExpressionAddress("v_1"), "v_1'address");
   EXPECT_EQ(ExpressionFirstAddress("v_1"), "v_1( v_1'first )'address");
 }

@@ -1,4 +1,5 @@
-// Tests of the writer of generated text: what it formats itself and what it hands to the library.
+// Tests of the writer of generated text: templates that the compiler takes apart, and those that it
+// hands to the library.
 
 #include "Emit.h"
 
@@ -46,31 +47,50 @@ struct TemporaryStream {
 
 TEST(Emit, TextsAndNumbersAreFormatted) {
   MemoryStream memory;
-  Emit(memory.stream, "  %s_%d : constant := %d; -- 100%%\n", "arg", 12, -7);
-  Emit(memory.stream, "%d %d %d", INT_MIN, 0, INT_MAX);
-  Emit(memory.stream, "%s", "");
-  EXPECT_EQ(memory.Text(), "  arg_12 : constant := -7; -- 100%\n-2147483648 0 2147483647");
+  Emit(memory.stream, "  %s_%d : constant := %d;\n"_ada, "arg", 12, -7);
+  Emit(memory.stream, "%d %d %d"_ada, INT_MIN, 0, INT_MAX);
+  Emit(memory.stream, "%s"_ada, "");
+  EXPECT_EQ(memory.Text(), "  arg_12 : constant := -7;\n-2147483648 0 2147483647");
+}
+
+TEST(Emit, ValuesStandWhereTheirConversionsDo) {
+  MemoryStream memory;
+  const std::string middle(16, 'm');
+  Emit(memory.stream, ""_ada);
+  Emit(memory.stream, "%s"_ada, "only");
+  Emit(memory.stream, "%d%s%d"_ada, 9, middle.c_str(), 10);
+  Emit(memory.stream, "|%s%s|\n"_ada, "", "b");
+  EXPECT_EQ(memory.Text(), "only9mmmmmmmmmmmmmmmm10|b|\n");
+}
+
+TEST(Emit, TheTextItselfIsTheSame) {
+  EXPECT_EQ(EmitToString(""_ada), "");
+  EXPECT_EQ(EmitToString("%s_%d"_ada, "name", -1), "name_-1");
+  for (const std::size_t length : {52U, 53U, 54U, 64U, 65U, 3000U}) {
+    const std::string text(length, 'x');
+    EXPECT_EQ(EmitToString("<%s%d>"_ada, text.c_str(), INT_MIN), "<" + text + "-2147483648>");
+  }
 }
 
 TEST(Emit, OtherConversionsAreTheLibrarys) {
   MemoryStream memory;
-  Emit(memory.stream, "%s( %3u ) %d %03o %s %08lx%d.\n", "val", 7U, 1, 8U, "x", 255UL, 2);
+  Emit(memory.stream, "%s( %3u ) %d %03o %s %08lx%d 100%%.\n", "val", 7U, 1, 8U, "x", 255UL, 2);
   Emit(memory.stream, "%.6E and %.15E", 1.5, -0.25);
   EXPECT_EQ(memory.Text(),
-            "val(   7 ) 1 010 x 000000ff2.\n1.500000E+00 and -2.500000000000000E-01");
+            "val(   7 ) 1 010 x 000000ff2 100%.\n1.500000E+00 and -2.500000000000000E-01");
 }
 
 TEST(Emit, NoTextIsWrittenAsTheLibraryDoes) {
   MemoryStream memory;
-  Emit(memory.stream, "<%s>", std::getenv("KIVUXL_HAS_NO_SUCH_VARIABLE"));
+  Emit(memory.stream, "<%s>"_ada, std::getenv("KIVUXL_HAS_NO_SUCH_VARIABLE"));
   EXPECT_EQ(memory.Text(), "<(null)>");
 }
 
 TEST(Emit, TextsOfEveryLengthStayWholeAndInOrder) {
-  for (const std::size_t length : {2046U, 2047U, 2048U, 2049U, 4096U, 100000U}) {
+  for (const std::size_t length : {1U, 8U, 2047U, 65530U, 65535U, 65536U, 100000U}) {
     const std::string text(length, 'x');
     MemoryStream memory;
-    Emit(memory.stream, "a%sb%d%sc", text.c_str(), 5, text.c_str());
+    Emit(memory.stream, "a%sb%d%sc"_ada, text.c_str(), 5, text.c_str());
     EXPECT_EQ(memory.Text(), "a" + text + "b5" + text + "c") << length;
   }
 }
@@ -87,11 +107,12 @@ TEST(Emit, AHeldStreamGetsItsTextInOrderAtRelease) {
   EmitHold(held.stream);
   const std::string text(40000, 'x');
   const std::string longest(70000, 'y');
-  Emit(held.stream, "a%sb%s", text.c_str(), text.c_str());
-  Emit(other.stream, "between");
-  Emit(held.stream, "c%sd%.1f", longest.c_str(), 0.5);
+  Emit(held.stream, "a%sb%s"_ada, text.c_str(), text.c_str());
+  Emit(other.stream, "between"_ada);
+  Emit(held.stream, "c%sd"_ada, longest.c_str());
+  Emit(held.stream, "%.1f", 0.5);
   EmitRelease(held.stream);
-  Emit(held.stream, "e");
+  Emit(held.stream, "e"_ada);
   EXPECT_EQ(held.Text(), "a" + text + "b" + text + "c" + longest + "d0.5e");
   EXPECT_EQ(other.Text(), "between");
 }
@@ -102,7 +123,7 @@ TEST(Emit, MoreStreamsThanBuffersAreWrittenAsWell) {
     EmitHold(unit.stream);
   }
   for (TemporaryStream &unit : units) {
-    Emit(unit.stream, "unit %d", 1);
+    Emit(unit.stream, "unit %d"_ada, 1);
     EmitRelease(unit.stream);
     EXPECT_EQ(unit.Text(), "unit 1");
   }
