@@ -30,6 +30,8 @@ bool listing_keeps_lines = true;
 std::FILE *listing_fp = nullptr;
 std::time_t run_date_time = 0;
 
+static ListingLine *open_line = nullptr; // the last one, until it is complete
+
 constexpr std::size_t kModuleNameShown = 31; // characters of the module's name in a header
 constexpr std::size_t kDateSize = 256;       // bytes of the date in any locale
 constexpr int kNumberedLines = 1000000;      // from here on line numbers show their last digits
@@ -119,10 +121,11 @@ static void ListingReserve(ListingLine *line, int length) {
 }
 
 // Everything but the middle of a line.
-[[gnu::noinline]] static void ListingPutEdge(ListingLine *line, const char *text, int length) {
-  if (line == nullptr || line->complete) {
-    line = ListingNewLine(line);
+[[gnu::noinline]] static void ListingPutEdge(const char *text, int length) {
+  if (open_line == nullptr) {
+    open_line = ListingNewLine(static_cast<ListingLine *>(ListGetLast(listing)));
   }
+  ListingLine *line = open_line;
   if (length <= 0) {
     return;
   }
@@ -134,16 +137,17 @@ static void ListingReserve(ListingLine *line, int length) {
   line->text[line->length] = '\0';
   if (ends) {
     line->complete = true;
+    open_line = nullptr;
     yylineno += yylineno < INT_MAX ? 1 : 0;
   }
 }
 
-// Most of the 80 pieces of a widget's source stand in the middle of a line, and there is room.
+// Most of the 40 pieces of a widget's source stand in the middle of a line, and there is room.
 void PutListing(const char *text, int length) {
-  auto *line = static_cast<ListingLine *>(ListGetLast(listing));
-  if (line == nullptr || line->complete || length <= 0 || text[length - 1] == '\n' ||
+  ListingLine *line = open_line;
+  if (line == nullptr || length <= 0 || text[length - 1] == '\n' ||
       length >= line->maxlen - line->length) {
-    ListingPutEdge(line, text, length);
+    ListingPutEdge(text, length);
     return;
   }
   char *end = line->text + line->length;
@@ -411,6 +415,7 @@ int WriteListing() {
 
 void ListingReset() {
   listing = nullptr;
+  open_line = nullptr;
   listing_keeps_lines = true;
   if (listing_fp != nullptr) {
     std::fclose(listing_fp);

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 #include "Alloc.h"
@@ -65,9 +66,12 @@ void NeedLiteral(int n) {
   }
 }
 
-void PutLiteralChar(char c) {
-  NeedLiteral(1);
-  lit_buffer[lit_bufptr++] = c;
+void PutLiteralChar(char c) { PutLiteralText(&c, 1); }
+
+void PutLiteralText(const char *text, int length) {
+  NeedLiteral(length);
+  std::memcpy(lit_buffer + lit_bufptr, text, static_cast<std::size_t>(length));
+  lit_bufptr += length;
   lit_buffer[lit_bufptr] = '\0';
 }
 

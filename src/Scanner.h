@@ -38,6 +38,7 @@ extern int lit_bufptr;
 void StartLiteral();
 void NeedLiteral(int n);
 void PutLiteralChar(char c);
+void PutLiteralText(const char *text, int length);
 void PutEscapeChar(const char *text);
 void PutEscapeNum(const char *text);
 int GetLiteral(int token);
