@@ -29,6 +29,8 @@ HashTable widget_table = nullptr;
 const char *child_self_or_parent = "self";
 const WidgetDef *current_top_level = nullptr;
 
+static std::uint32_t widget_table_number = 0; // of the run's tables, from 1
+
 constexpr unsigned kBuckets = 511;
 
 // "Xm" of a class, function or constant and "XmN" of a resource, which the Ada names leave out.
@@ -86,6 +88,7 @@ static void ReportNoWidget() {
 // -- What has been written ---------------------------------------------------------------------
 
 bool WidgetTableInit() {
+  ++widget_table_number;
   widget_table = case_sensitive ? HashCreate(kBuckets, CaseSensitiveKeyFunc, SimpleHashFunc,
                                              CaseSensitiveCompareFunc, nullptr)
                                 : HashCreate(kBuckets, CaseInsensitiveKeyFunc, SimpleHashFunc,
@@ -108,9 +111,9 @@ static WidgetEmit *FindEmitRecord(const WidgetDef *widget) {
 // Asked for nine times for each widget.
 WidgetEmit *WidgetEmitRecord(const WidgetDef *widget) {
   WidgetNotes *notes = WidgetNotesOf(widget);
-  if (notes->emit_table != widget_table) {
+  if (notes->emit_table != widget_table_number) {
     notes->emit = FindEmitRecord(widget);
-    notes->emit_table = widget_table;
+    notes->emit_table = widget_table_number;
   }
   return notes->emit;
 }
@@ -163,6 +166,7 @@ static ArgumentBlock BlockOfPhases(const PhasedArguments &phased, unsigned phase
   ArgumentBlock block;
   for (const PhasedArgument &entry : phased) {
     if ((PhaseBit(entry.phase) & phases) != 0) {
+      block.arguments.reserve(phased.size());
       block.arguments.push_back({entry.argument, block.slots + 1});
       block.slots += argument_paired_arg(entry.argument->name) == nullptr ? 1 : 2;
     }

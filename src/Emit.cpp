@@ -39,9 +39,14 @@ static void EmitFlush(EmitBuffer *buffer) {
 // -- Units -------------------------------------------------------------------------------------
 
 static EmitBuffer *UnitBuffer(const std::FILE *file) {
+  static EmitBuffer *recent = &unit_texts[0].buffer;
+  if (recent->file == file) {
+    return recent;
+  }
   for (UnitText &unit : unit_texts) {
     if (unit.buffer.file == file) {
-      return &unit.buffer;
+      recent = &unit.buffer;
+      return recent;
     }
   }
   return nullptr;

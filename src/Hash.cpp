@@ -141,8 +141,7 @@ static bool HashIndexEqual(const HashIndexRec &index, const char *left, const ch
 
 // The link of that chain, or of any, with an equal key; or null.
 static HashBucketRec *HashIndexFind(const HashIndexRec &index, std::uint32_t bucket,
-                                    const char *key) {
-  const std::uint32_t tag = HashIndexTag(index, key);
+                                    const char *key, std::uint32_t tag) {
   for (std::uint32_t place = tag & (index.size - 1); index.slots[place].link != nullptr;
        place = (place + 1) & (index.size - 1)) {
     const HashSlotRec &slot = index.slots[place];
@@ -219,11 +218,16 @@ HashTable HashCreate(unsigned max_entries, KeyFunc key_func, HashFunc hash_func,
   return table;
 }
 
+// What the index knows the key by; 0 in a table without one.
+static std::uint32_t HashTag(const HashTableRec &table, const char *key) {
+  return table.index.compare == nullptr ? 0 : HashIndexTag(table.index, key);
+}
+
 // The link of that chain with an equal key, or null.
-static HashBucketRec *HashFindLink(const HashTableRec &table, std::uint32_t bucket,
-                                   const char *key) {
+static HashBucketRec *HashFindLink(const HashTableRec &table, std::uint32_t bucket, const char *key,
+                                   std::uint32_t tag) {
   if (HashIndexIsCurrent(table)) {
-    return HashIndexFind(table.index, bucket, key);
+    return HashIndexFind(table.index, bucket, key, tag);
   }
   for (HashBucketRec *link = table.entries[bucket].first; link != nullptr; link = link->next) {
     if (link->key != nullptr && table.compare_func(key, link->key) == 0) {
@@ -233,20 +237,25 @@ static HashBucketRec *HashFindLink(const HashTableRec &table, std::uint32_t buck
   return nullptr;
 }
 
-// Enters a key that is not present; false on exhaustion.  The key is then still the caller's.
-static bool HashAddLink(HashTableRec &table, std::uint32_t bucket, char *key, void *entry) {
+// Enters a key that is not present; false on exhaustion.  The copy of the key stands behind its
+// link, where a look-up has it at hand.
+static bool HashAddLink(HashTableRec &table, std::uint32_t bucket, const char *key,
+                        std::uint32_t tag, void *entry) {
   const bool indexed = table.index.compare != nullptr;
   if (indexed && !HashIndexReserve(table.index)) {
     return false;
   }
-  void *memory = _MAlloc(sizeof(HashBucketRec));
+  const std::size_t size = std::strlen(key) + 1;
+  auto *memory = static_cast<char *>(_MAlloc(sizeof(HashBucketRec) + size));
   if (memory == nullptr) {
     return false;
   }
   HashHeaderRec &chain = table.entries[bucket];
-  auto *link = new (memory) HashBucketRec{chain.first, key, entry};
+  char *copy = memory + sizeof(HashBucketRec);
+  std::memcpy(copy, key, size);
+  auto *link = new (memory) HashBucketRec{chain.first, copy, entry};
   if (indexed) {
-    HashIndexPlace(table.index, {link, bucket, HashIndexTag(table.index, key)});
+    HashIndexPlace(table.index, {link, bucket, tag});
   }
   chain.first = link;
   table.ncollide += chain.count;
@@ -255,20 +264,25 @@ static bool HashAddLink(HashTableRec &table, std::uint32_t bucket, char *key, vo
   return true;
 }
 
+static bool HashAddKey(HashTableRec &table, const char *key, void *entry) {
+  const std::uint32_t bucket = table.hash_func(key) % table.modulus;
+  const std::uint32_t tag = HashTag(table, key);
+  return HashFindLink(table, bucket, key, tag) == nullptr &&
+         HashAddLink(table, bucket, key, tag, entry);
+}
+
 bool HashAdd(HashTable table, void *entry) {
   if (entry == nullptr || table == nullptr || table->entries == nullptr) {
     return false;
   }
+  if (table->key_func == CaseSensitiveKeyFunc) { // without a copy
+    const char *name = static_cast<const SimpleObjectRec *>(entry)->key;
+    return name != nullptr && HashAddKey(*table, name, entry);
+  }
   char *key = table->key_func(entry);
-  if (key == nullptr) {
-    return false;
-  }
-  const std::uint32_t bucket = table->hash_func(key) % table->modulus;
-  if (HashFindLink(*table, bucket, key) == nullptr && HashAddLink(*table, bucket, key, entry)) {
-    return true;
-  }
+  const bool added = key != nullptr && HashAddKey(*table, key, entry);
   _MFree(key);
-  return false;
+  return added;
 }
 
 // Whether the keys are the names themselves, of which equal ones always share a bucket.  Nearly all
@@ -283,7 +297,8 @@ void *HashFind(HashTable table, const char *key) {
     return nullptr;
   }
   if (HashKeysAreNames(*table)) {
-    const HashBucketRec *link = HashIndexFind(table->index, kAnyBucket, key);
+    const HashBucketRec *link =
+        HashIndexFind(table->index, kAnyBucket, key, HashIndexTag(table->index, key));
     return link == nullptr ? nullptr : link->entry;
   }
   SimpleObjectRec dummy = {};
@@ -293,7 +308,7 @@ void *HashFind(HashTable table, const char *key) {
     return nullptr;
   }
   const std::uint32_t bucket = table->hash_func(probe) % table->modulus;
-  const HashBucketRec *link = HashFindLink(*table, bucket, probe);
+  const HashBucketRec *link = HashFindLink(*table, bucket, probe, HashTag(*table, probe));
   _MFree(probe);
   return link == nullptr ? nullptr : link->entry;
 }
@@ -321,7 +336,6 @@ static void HashPartDestroy(HashTable table, bool destroy_objects) {
     HashBucketRec *next = nullptr;
     for (HashBucketRec *link = table->entries[bucket].first; link != nullptr; link = next) {
       next = link->next;
-      _MFree(link->key);
       if (destroys && link->entry != nullptr) {
         table->destroy_func(link->entry);
       }

@@ -34,7 +34,7 @@ using DestroyFunc = void (*)(void *entry);
 // One link of a chain.
 struct HashBucketRec {
   HashBucketRec *next;
-  char *key;   // the table's own copy
+  char *key;   // the table's own copy, part of the link's block
   void *entry; // the caller's record
 };
 

@@ -114,10 +114,12 @@ bool SymbolTableInit() { return TableInit(&symbol_table); }
 
 bool NamesTableInit() { return TableInit(&names_table); }
 
+// Null when there are none, as of most widgets for two kinds out of three.
 static List ExtractKind(List list, std::int32_t kind) {
-  List extract = ModelList();
+  List extract = nullptr;
   for (const ListItem *node = ListFirstNode(list); node != nullptr; node = node->next) {
     if (static_cast<KindRec *>(node->data)->kind == kind) {
+      extract = extract == nullptr ? ModelList() : extract;
       ModelAppend(extract, node->data);
     }
   }

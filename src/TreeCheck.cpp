@@ -9,23 +9,13 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
 #include "Error.h"
 #include "Model.h"
 #include "WidgetUtils.h"
-
-// What is below a place.
-struct TreeSize {
-  long long controls = 0; // by paths, at most kMaxHierarchy + 1
-  int depth = 0;          // levels of controls, at most kMaxControlDepth + 1
-};
-
-struct TreePlace {
-  bool open = true; // on the way that is being walked
-  TreeSize below;
-};
 
 // One step of the way from the top-level object.
 struct TreeStep {
@@ -36,18 +26,20 @@ struct TreeStep {
 };
 
 struct TreeWalk {
-  std::unordered_map<const void *, TreePlace> places;
+  std::unordered_map<const void *, TreePlace> lists; // widgets have their places with them
   std::vector<TreeStep> way;
 };
 
-static void Add(TreeSize *sum, const TreeSize &part) {
-  sum->controls = std::min(sum->controls + part.controls, kMaxHierarchy + 1);
-  sum->depth = std::max(sum->depth, part.depth);
+// Adds a control, or what is in a list, to what is below a place; both counts stop one above what
+// is allowed.
+static void Add(TreePlace *sum, std::int32_t controls, int depth) {
+  sum->controls = std::min(sum->controls + controls, kMaxHierarchy + 1);
+  sum->depth =
+      static_cast<std::int16_t>(std::max<int>(sum->depth, std::min(depth, kMaxControlDepth + 1)));
 }
 
-// The size of a widget together with what is below it.
-static TreeSize WithWidget(const TreeSize &below) {
-  return {below.controls + 1, std::min(below.depth, kMaxControlDepth) + 1};
+static void AddPlace(TreePlace *sum, const TreePlace &place, bool is_widget) {
+  Add(sum, place.controls + (is_widget ? 1 : 0), place.depth + (is_widget ? 1 : 0));
 }
 
 // The place is on the way to itself.  When it is a list, the first widget in it is the one that
@@ -63,21 +55,25 @@ static TreeSize WithWidget(const TreeSize &below) {
 }
 
 // Goes down to a place, or takes what is known of it.
-static void Enter(TreeWalk *walk, const void *key, const WidgetDef *widget, List items) {
-  const auto [entry, is_new] = walk->places.try_emplace(key);
-  TreePlace *place = &entry->second;
-  if (is_new) {
-    walk->way.push_back({key, widget, ListFirstNode(items), place});
-  } else if (place->open) {
-    ReportRing(walk->way, key);
+static void Enter(TreeWalk *walk, TreePlace *place, const TreeStep &step) {
+  if (place->state == TreePlace::kNew) {
+    place->state = TreePlace::kOpen;
+    walk->way.push_back(step);
+  } else if (place->state == TreePlace::kOpen) {
+    ReportRing(walk->way, step.key);
   } else {
-    Add(&walk->way.back().place->below,
-        widget == nullptr ? place->below : WithWidget(place->below));
+    AddPlace(walk->way.back().place, *place, step.widget != nullptr);
   }
 }
 
 static void EnterWidget(TreeWalk *walk, const WidgetDef *definition) {
-  Enter(walk, definition, definition, definition->ctls);
+  TreePlace *place = &WidgetNotesOf(definition)->place;
+  Enter(walk, place, {definition, definition, ListFirstNode(definition->ctls), place});
+}
+
+static void EnterList(TreeWalk *walk, List items) {
+  TreePlace *place = &walk->lists[items];
+  Enter(walk, place, {items, nullptr, ListFirstNode(items), place});
 }
 
 // What is written for a widget is kept by its name and goes by the legal form of that, so the name
@@ -102,7 +98,7 @@ static void TakeItem(TreeWalk *walk, KindRec *item) {
   case CONTROLS_LIST_NAME: {
     List items = static_cast<UnionList *>(item)->value;
     if (items != nullptr) {
-      Enter(walk, items, nullptr, items);
+      EnterList(walk, items);
     }
     return;
   }
@@ -121,22 +117,21 @@ static void TakeItem(TreeWalk *walk, KindRec *item) {
   default:
     break;
   }
-  Add(&walk->way.back().place->below, WithWidget({}));
+  Add(walk->way.back().place, 1, 1); // a reference to nothing
 }
 
 // Everything below the place at the end of the way has been walked.
 static void Leave(TreeWalk *walk) {
   const TreeStep done = walk->way.back();
   walk->way.pop_back();
-  done.place->open = false;
+  done.place->state = TreePlace::kWalked;
   if (!walk->way.empty()) {
-    Add(&walk->way.back().place->below,
-        done.widget == nullptr ? done.place->below : WithWidget(done.place->below));
+    AddPlace(walk->way.back().place, *done.place, done.widget != nullptr);
   }
 }
 
 static void WalkTree(TreeWalk *walk, const WidgetDef *top) {
-  if (walk->places.contains(top)) {
+  if (WidgetNotesOf(top)->place.state != TreePlace::kNew) {
     return;
   }
   EnterWidget(walk, top);
@@ -151,7 +146,7 @@ static void WalkTree(TreeWalk *walk, const WidgetDef *top) {
   }
 }
 
-static void CheckSize(const WidgetDef *top, const TreeSize &below) {
+static void CheckSize(const WidgetDef *top, const TreePlace &below) {
   if (below.depth > kMaxControlDepth) {
     FatalErrorFormat("Controls nested too deeply below %s", top->name);
   }
@@ -161,11 +156,12 @@ static void CheckSize(const WidgetDef *top, const TreeSize &below) {
 }
 
 void TreeCheck() {
+  WidgetListsAreComplete();
   TreeWalk walk;
   for (const ListItem *node = ListFirstNode(top_level_objects); node != nullptr;
        node = node->next) {
     const auto *top = static_cast<const WidgetDef *>(node->data);
     WalkTree(&walk, top);
-    CheckSize(top, walk.places.at(top).below);
+    CheckSize(top, WidgetNotesOf(top)->place);
   }
 }

@@ -22,6 +22,8 @@
 // Beside the Ada interface, the only value of `interface_type` for which names are made legal.
 constexpr int kInterfaceReserved = 3;
 
+static bool lists_are_complete = false;
+
 static bool SameName(const char *left, const char *right) {
   return SafeStrcmp(left, right, case_sensitive ? 1 : 0) == 0;
 }
@@ -68,7 +70,7 @@ WidgetNotes *WidgetNotesOf(const WidgetDef *widget) {
 }
 
 // The definition bound to the name, or null after a message.
-static const WidgetDef *FindDefinition(const char *name) {
+static WidgetDef *FindDefinition(const char *name) {
   const SimpleObjectRec *entry = SymbolFind(name);
   if (entry != nullptr && entry->kind != WIDGET_NAME && entry->kind != WIDGET_DEF) {
     if (IsFirstReport(name)) {
@@ -85,11 +87,17 @@ static const WidgetDef *FindDefinition(const char *name) {
   return nullptr;
 }
 
+// Whether the reference asks for nothing that its definition does not say.
+static bool IsPlain(const WidgetRef &reference, const WidgetDef &definition) {
+  return (reference.managed == UNMANAGED) == (definition.managed == UNMANAGED);
+}
+
 const WidgetDef *WidgetResolve(WidgetRef *reference) {
   if (reference->resolved == nullptr) {
-    const WidgetDef *definition = FindDefinition(reference->name);
-    if (definition == nullptr) {
-      return nullptr;
+    WidgetDef *definition = FindDefinition(reference->name);
+    if (definition == nullptr || IsPlain(*reference, *definition)) {
+      reference->resolved = definition;
+      return definition;
     }
     static_cast<void>(WidgetNotesOf(definition)); // before it is copied
     reference->resolved = ModelCopy(*definition);
@@ -195,23 +203,34 @@ static bool CountItem(ListCount *count, const FlatRules &rules) {
   return true;
 }
 
+// Counts what is left of the list and notes it.  False before a list whose own count is missing.
+static bool CountItems(ListCount *count, const FlatRules &rules) {
+  while (count->next != nullptr) {
+    if (!CountItem(count, rules)) {
+      return false;
+    }
+  }
+  count->list->note = count->items * kCountUnit | count->has_lists | kCounted;
+  return true;
+}
+
 // The weight of what the list opens into, kTooMany at most.  Notes that on it and on all lists in
 // it, whose items become what they are kept as.
 static std::uint32_t CountOpened(List source, const FlatRules &rules) {
   if (source == nullptr) {
     return 0;
   }
-  if (source->note != 0) {
-    return source->note / kCountUnit;
-  }
-  std::vector<ListCount> open = {StartCount(source)};
-  while (!open.empty()) {
-    ListCount *count = &open.back();
-    if (count->next == nullptr) {
-      count->list->note = count->items * kCountUnit | count->has_lists | kCounted;
-      open.pop_back();
-    } else if (!CountItem(count, rules)) {
-      open.push_back(StartCount(ListOfItem(static_cast<KindRec *>(count->next->data))));
+  if (source->note == 0) {
+    ListCount count = StartCount(source);
+    std::vector<ListCount> open; // the lists around the one that is being counted
+    while (!CountItems(&count, rules) || !open.empty()) {
+      if (count.next == nullptr) {
+        count = open.back();
+        open.pop_back();
+      } else {
+        open.push_back(count);
+        count = StartCount(ListOfItem(static_cast<KindRec *>(count.next->data)));
+      }
     }
   }
   return source->note / kCountUnit;
@@ -245,47 +264,59 @@ static List FlatCopy(const WidgetDef *widget, List source, const FlatRules &rule
   return flat.release();
 }
 
-// Finds out whether `source`, which is not empty, opens into nothing or into one list without
-// lists, which is taken as it is.  True puts it into `flat`.
+// Finds out whether `source` opens into nothing or into one list without lists, which is taken as
+// it is.  True puts it into `flat`.
 static bool FindFlat(List source, const FlatRules &rules, List *flat) {
-  auto *item = static_cast<KindRec *>(source->first->data);
-  if (source->nitems == 1 && IsList(item, rules)) {
-    List list = ListOfItem(item);
-    const std::uint32_t items = CountOpened(list, rules);
-    *flat = items == 0 ? nullptr : list;
-    return items == 0 || (items <= kMaxFlatItems && (list->note & kHasLists) == 0);
+  *flat = nullptr;
+  if (ListLength(source) != 1) {
+    return ListLength(source) == 0;
   }
-  return false;
+  auto *item = static_cast<KindRec *>(source->first->data);
+  if (!IsList(item, rules)) {
+    return false;
+  }
+  List list = ListOfItem(item);
+  const std::uint32_t items = CountOpened(list, rules);
+  *flat = items == 0 ? nullptr : list;
+  return items == 0 || (items <= kMaxFlatItems && (list->note & kHasLists) == 0);
 }
 
 // The items of `source` with each list in it replaced by its own items.  Nearly always the model
 // has such a list, which is taken as it is: without the copies 10,000 widgets take a tenth less.
 // Which one is noted on the widget, for the way there leads through four records and is gone six
 // times.
-static List Flatten(const WidgetDef *widget, List source, const FlatRules &rules) {
-  if (ListLength(source) == 0) {
+static List Flatten(const WidgetDef *widget, List WidgetDef::*source, const FlatRules &rules) {
+  if (widget == nullptr) {
     return nullptr;
   }
   WidgetNotes *notes = WidgetNotesOf(widget);
-  if (notes->flat_from[rules.place] != source->nitems) {
-    if (!FindFlat(source, rules, &notes->flat[rules.place])) {
-      return FlatCopy(widget, source, rules);
-    }
-    notes->flat_from[rules.place] = source->nitems;
+  const unsigned known = 1U << rules.place;
+  if ((notes->flat_known & known) != 0) {
+    return notes->flat[rules.place];
   }
-  return notes->flat[rules.place];
+  List flat = nullptr;
+  if (!FindFlat(widget->*source, rules, &flat)) {
+    return FlatCopy(widget, widget->*source, rules);
+  }
+  if (lists_are_complete) {
+    notes->flat[rules.place] = flat;
+    notes->flat_known = static_cast<std::uint8_t>(notes->flat_known | known);
+  }
+  return flat;
 }
 
+void WidgetListsAreComplete() { lists_are_complete = true; }
+
 List WidgetFlatArgumentsList(const WidgetDef *widget) {
-  return widget == nullptr ? nullptr : Flatten(widget, widget->args, kArgumentRules);
+  return Flatten(widget, &WidgetDef::args, kArgumentRules);
 }
 
 List WidgetFlatCallbacksList(const WidgetDef *widget) {
-  return widget == nullptr ? nullptr : Flatten(widget, widget->cbs, kCallbackRules);
+  return Flatten(widget, &WidgetDef::cbs, kCallbackRules);
 }
 
 List WidgetFlatControlsList(const WidgetDef *widget) {
-  return widget == nullptr ? nullptr : Flatten(widget, widget->ctls, kControlRules);
+  return Flatten(widget, &WidgetDef::ctls, kControlRules);
 }
 
 // -- Classes -----------------------------------------------------------------------------------
@@ -626,4 +657,7 @@ const char *WidgetAdaName(const WidgetDef *widget) {
   return notes->ada_name;
 }
 
-void WidgetUtilsReset() { reported_names.clear(); }
+void WidgetUtilsReset() {
+  reported_names.clear();
+  lists_are_complete = false;
+}

@@ -37,9 +37,12 @@ List WidgetFlatArgumentsList(const WidgetDef *widget);
 List WidgetFlatCallbacksList(const WidgetDef *widget);
 List WidgetFlatControlsList(const WidgetDef *widget);
 
-// The definition that a reference stands for: a copy, made once for each reference, whose `managed`
-// is the reference's.  Null, after an immediate message that is given once for each name, when
-// the name is not defined or is no widget's.
+// Says that no list of the model will become longer, so that what one opens into may be kept.
+void WidgetListsAreComplete();
+
+// The definition that a reference stands for; a copy of it, made once for each reference, when only
+// one of the two is unmanaged.  Null, after an immediate message that is given once for each name,
+// when the name is not defined or is no widget's.
 const WidgetDef *WidgetResolve(WidgetRef *reference);
 
 bool WidgetChildrenFirst(const WidgetDef *widget);
@@ -53,15 +56,25 @@ bool WidgetIsDefined(const WidgetDef *widget);
 // resolved reference copies.  Two items of one definition share it.
 const WidgetDef *WidgetOrigin(const WidgetDef *widget);
 
-// What has been found out about a definition, shared by all that refer to it.
-struct WidgetNotes {
-  std::int64_t hierarchy; // size of the subtree, 0 while not counted
-  const char *ada_name;   // null while not asked for
-  WidgetEmit *emit;       // AdaWidgetProcs' record of its name, of the table below
-  HashTable emit_table;
-  List flat[3];               // its lists opened, as far as the model has them like that
-  std::uint32_t flat_from[3]; // how many items each was opened from, 0 while it was not
+// What the pass before the writers knows of a place in the trees, a widget or a list.
+struct TreePlace {
+  std::int32_t controls; // below it, by paths
+  std::int16_t depth;    // levels of controls below it
+  enum : std::uint8_t { kNew, kOpen, kWalked } state;
 };
+
+// What has been found out about a definition, shared by all that refer to it.  As long as a line of
+// the processor's memory, for every walk over the widgets comes here.
+struct alignas(64) WidgetNotes {
+  List flat[3];           // its lists opened, as far as the model has them like that
+  const char *ada_name;   // null while not asked for
+  WidgetEmit *emit;       // AdaWidgetProcs' record of its name, of the table with that number
+  std::int64_t hierarchy; // size of the subtree, 0 while not counted
+  TreePlace place;
+  std::uint32_t emit_table;
+  std::uint8_t flat_known; // a bit for each sort of list: `flat` has it
+};
+static_assert(sizeof(WidgetNotes) == 64);
 
 WidgetNotes *WidgetNotesOf(const WidgetDef *widget);
 

@@ -505,8 +505,7 @@ TEST_F(Hash, AddSurvivesExhaustionAtEveryAllocation) {
       ASSERT_EQ(HashFind(table, entry->name), nullptr);
     }
     AllocFailAfter(-1);
-    // The key and the link at least.
-    ASSERT_GE(successes, 2);
+    ASSERT_GE(successes, 1); // the link at least
     ASSERT_EQ(HashFind(table, entry->name), entry);
   }
   ExpectConsistent(table);

@@ -207,7 +207,7 @@ TEST_F(WidgetUtils, ReferenceTakesAllButManagedFromTheDefinition) {
   EXPECT_EQ(copy->ctls, child->ctls);
   EXPECT_FALSE(copy->anon);
   EXPECT_TRUE(copy->maybe_top);
-  EXPECT_EQ(static_cast<const WidgetDef *>(ListGetLast(controls.get()))->managed, NIL);
+  EXPECT_EQ(ListGetLast(controls.get()), child); // which is not unmanaged either
   EXPECT_EQ(child->managed, MANAGED);
   EXPECT_EQ(WidgetOrigin(copy), child);
   EXPECT_EQ(WidgetOrigin(child), child);
