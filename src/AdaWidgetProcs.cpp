@@ -132,6 +132,7 @@ static bool WidgetEmitOnce(const WidgetDef *widget, bool WidgetEmit::*flag) {
 struct PhasedArgument {
   const ArgumentInvoke *argument;
   DeferUntil phase;
+  int slots; // two for one with a pair
 };
 using PhasedArguments = std::vector<PhasedArgument>;
 
@@ -141,15 +142,10 @@ constexpr unsigned kBefore = PhaseBit(SETARG_BEFORE);
 constexpr unsigned kAfter = PhaseBit(SETARG_AFTER);
 constexpr unsigned kSecond = PhaseBit(SETARG_SECOND);
 
-struct NumberedArgument {
-  const ArgumentInvoke *argument;
-  int n; // its slot
-};
-
-// The arguments that one call sets.
+// The arguments that one call sets: those of some phases.
 struct ArgumentBlock {
-  std::vector<NumberedArgument> arguments;
-  int slots = 0;
+  const PhasedArguments &all;
+  unsigned phases;
 };
 
 static PhasedArguments WidgetPhasedArguments(List arguments) {
@@ -157,37 +153,43 @@ static PhasedArguments WidgetPhasedArguments(List arguments) {
   phased.reserve(ListLength(arguments));
   for (const ListItem *node = ListFirstNode(arguments); node != nullptr; node = node->next) {
     const auto *argument = static_cast<const ArgumentInvoke *>(node->data);
-    phased.push_back({argument, ValueDeferSetting(argument->value)});
+    phased.push_back({argument, ValueDeferSetting(argument->value),
+                      argument_paired_arg(argument->name) == nullptr ? 1 : 2});
   }
   return phased;
 }
 
-static ArgumentBlock BlockOfPhases(const PhasedArguments &phased, unsigned phases) {
-  ArgumentBlock block;
-  for (const PhasedArgument &entry : phased) {
-    if ((PhaseBit(entry.phase) & phases) != 0) {
-      block.arguments.reserve(phased.size());
-      block.arguments.push_back({entry.argument, block.slots + 1});
-      block.slots += argument_paired_arg(entry.argument->name) == nullptr ? 1 : 2;
+// Calls visit(argument, n) for each argument of the block with its first slot; returns how many
+// slots the block takes.
+template <typename Visit> static int BlockForEach(const ArgumentBlock &block, Visit visit) {
+  int slots = 0;
+  for (const PhasedArgument &entry : block.all) {
+    if ((PhaseBit(entry.phase) & block.phases) != 0) {
+      visit(entry.argument, slots + 1);
+      slots += entry.slots;
     }
   }
-  return block;
+  return slots;
+}
+
+static int BlockSlots(const ArgumentBlock &block) {
+  return BlockForEach(block, [](const ArgumentInvoke *, int) {});
 }
 
 static void BlockDeclareAndSet(const ArgumentBlock &block, std::FILE *file) {
-  for (const NumberedArgument &entry : block.arguments) {
-    ValueDeclareArgument(entry.argument->value, entry.argument, file, entry.n);
-  }
+  BlockForEach(block, [file](const ArgumentInvoke *argument, int n) {
+    ValueDeclareArgument(argument->value, argument, file, n);
+  });
   Emit(file, "    begin\n"_ada);
-  for (const NumberedArgument &entry : block.arguments) {
-    ValueSetArgument(entry.argument->value, entry.argument, file, entry.n);
-  }
+  BlockForEach(block, [file](const ArgumentInvoke *argument, int n) {
+    ValueSetArgument(argument->value, argument, file, n);
+  });
 }
 
 static void BlockCleanup(const ArgumentBlock &block, std::FILE *file) {
-  for (const NumberedArgument &entry : block.arguments) {
-    ValueCleanup(entry.argument->value, file, entry.n);
-  }
+  BlockForEach(block, [file](const ArgumentInvoke *argument, int n) {
+    ValueCleanup(argument->value, file, n);
+  });
 }
 
 // -- Templates ---------------------------------------------------------------------------------
@@ -439,12 +441,12 @@ static void WidgetFetchAutoChild(const WidgetDef *widget, const WidgetDef *child
 }
 
 static void WidgetSetAutoChild(List arguments, std::FILE *file, const char *target, bool post) {
-  const ArgumentBlock block =
-      BlockOfPhases(WidgetPhasedArguments(arguments), post ? kSecond : kBefore | kAfter);
+  const PhasedArguments phased = WidgetPhasedArguments(arguments);
+  const ArgumentBlock block = {phased, post ? kSecond : kBefore | kAfter};
   Emit(file, "    declare\n"_ada);
   WidgetCreateArgsDecl(file, WidgetCountArguments(arguments));
   BlockDeclareAndSet(block, file);
-  WidgetCallXtSetvalues(file, target, block.slots);
+  WidgetCallXtSetvalues(file, target, BlockSlots(block));
   BlockCleanup(block, file);
   Emit(file, "      null;\n"
              "    end;\n"_ada);
@@ -504,9 +506,9 @@ static void WidgetCallCreateProcs(const WidgetDef *widget, List controls, std::F
 // The create call with the arguments that it takes.
 static void WidgetCreateSelf(const WidgetDef *widget, const PhasedArguments &arguments,
                              std::FILE *file, bool with_submenu) {
-  const ArgumentBlock block = BlockOfPhases(arguments, kBefore);
-  const bool has_block = !block.arguments.empty();
-  int slots = block.slots;
+  const ArgumentBlock block = {arguments, kBefore};
+  int slots = BlockSlots(block);
+  const bool has_block = slots > 0;
   if (has_block) {
     Emit(file, "    declare\n"_ada);
     BlockDeclareAndSet(block, file);
@@ -525,13 +527,14 @@ static void WidgetCreateSelf(const WidgetDef *widget, const PhasedArguments &arg
 // A block of its own that sets the arguments of those phases, if there are any.
 static void WidgetSetArguments(const PhasedArguments &arguments, unsigned phases, std::FILE *file,
                                const char *expression) {
-  const ArgumentBlock block = BlockOfPhases(arguments, phases);
-  if (block.arguments.empty()) {
+  const ArgumentBlock block = {arguments, phases};
+  const int slots = BlockSlots(block);
+  if (slots == 0) {
     return;
   }
   Emit(file, "    declare\n"_ada);
   BlockDeclareAndSet(block, file);
-  WidgetCallXtSetvalues(file, expression, block.slots);
+  WidgetCallXtSetvalues(file, expression, slots);
   BlockCleanup(block, file);
   Emit(file, "    end;\n"_ada);
 }

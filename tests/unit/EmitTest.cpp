@@ -87,11 +87,17 @@ TEST(Emit, NoTextIsWrittenAsTheLibraryDoes) {
 }
 
 TEST(Emit, TextsOfEveryLengthStayWholeAndInOrder) {
-  for (const std::size_t length : {1U, 8U, 2047U, 65530U, 65535U, 65536U, 100000U}) {
+  for (const std::size_t length : {1U, 8U, 2047U, 524280U, 524288U, 1048565U, 1048576U, 1100000U}) {
     const std::string text(length, 'x');
+    const std::string expected = "a" + text + "b5" + text + "c";
     MemoryStream memory;
     Emit(memory.stream, "a%sb%d%sc"_ada, text.c_str(), 5, text.c_str());
-    EXPECT_EQ(memory.Text(), "a" + text + "b5" + text + "c") << length;
+    EXPECT_EQ(memory.Text(), expected) << length;
+    TemporaryStream held;
+    EmitHold(held.stream);
+    Emit(held.stream, "a%sb%d%sc"_ada, text.c_str(), 5, text.c_str());
+    EmitRelease(held.stream);
+    EXPECT_EQ(held.Text(), expected) << length;
   }
 }
 
@@ -105,8 +111,8 @@ TEST(Emit, AHeldStreamGetsItsTextInOrderAtRelease) {
   TemporaryStream held;
   MemoryStream other;
   EmitHold(held.stream);
-  const std::string text(40000, 'x');
-  const std::string longest(70000, 'y');
+  const std::string text(600000, 'x');
+  const std::string longest(1100000, 'y');
   Emit(held.stream, "a%sb%s"_ada, text.c_str(), text.c_str());
   Emit(other.stream, "between"_ada);
   Emit(held.stream, "c%sd"_ada, longest.c_str());
