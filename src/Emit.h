@@ -60,14 +60,23 @@ void EmitRelease(const std::FILE *file);
 
 // -- How the templates are taken apart ---------------------------------------------------------
 
+// Where a text that stands for itself starts in the template, and how long it is.
+struct AdaPiece {
+  std::size_t start;
+  std::size_t length;
+};
+
 // The texts before, between and behind the conversions, each of which is two characters long.
 template <AdaText text> consteval auto AdaPieces() {
-  constexpr std::string_view kText(text.text, sizeof(text.text) - 1);
-  std::array<std::string_view, 1 + std::count(kText.begin(), kText.end(), '%')> pieces;
+  constexpr std::size_t kLength = sizeof(text.text) - 1;
+  std::array<AdaPiece, 1 + std::count(text.text, text.text + kLength, '%')> pieces{};
   std::size_t start = 0;
-  for (std::string_view &piece : pieces) {
-    piece = kText.substr(start, kText.find('%', start) - start);
-    start += piece.size() + 2;
+  for (AdaPiece &piece : pieces) {
+    piece.start = start;
+    while (start + piece.length < kLength && text.text[start + piece.length] != '%') {
+      ++piece.length;
+    }
+    start += piece.length + 2;
   }
   return pieces;
 }
@@ -88,9 +97,10 @@ struct AdaNumber {
 
 // Which of them the conversion with that index is for.
 template <AdaText text, std::size_t index> consteval auto AdaConversion() {
-  constexpr const char *kEnd = kAdaPieces<text>[index].end(); // the sign
-  static_assert(kEnd[1] == 's' || kEnd[1] == 'd');
-  return std::type_identity<std::conditional_t<kEnd[1] == 's', AdaString, AdaNumber>>();
+  constexpr AdaPiece kPiece = kAdaPieces<text>[index];
+  constexpr char kLetter = text.text[kPiece.start + kPiece.length + 1];
+  static_assert(kLetter == 's' || kLetter == 'd');
+  return std::type_identity<std::conditional_t<kLetter == 's', AdaString, AdaNumber>>();
 }
 template <AdaText text, std::size_t index>
 using AdaValue = typename decltype(AdaConversion<text, index>())::type;
@@ -120,16 +130,16 @@ inline char *EmitValue(char *out, AdaString value) {
 
 template <AdaText text> consteval std::size_t AdaLength() {
   std::size_t length = 0;
-  for (const std::string_view piece : kAdaPieces<text>) {
-    length += piece.size();
+  for (const AdaPiece &piece : kAdaPieces<text>) {
+    length += piece.length;
   }
   return length;
 }
 
 template <AdaText text, std::size_t index> inline char *EmitPiece(char *out) {
-  constexpr std::string_view kPiece = kAdaPieces<text>[index];
-  std::memcpy(out, kPiece.data(), kPiece.size());
-  return out + kPiece.size();
+  constexpr AdaPiece kPiece = kAdaPieces<text>[index];
+  std::memcpy(out, text.text + kPiece.start, kPiece.length);
+  return out + kPiece.length;
 }
 
 // Checks the values of a template and measures them; `use` gets the room that all the text takes
