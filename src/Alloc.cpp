@@ -110,10 +110,12 @@ static bool RunCreate() {
   }
   run_next = reinterpret_cast<char *>(first);
   run_end = run_next + kRunPages * kPageSize;
+#ifdef MADV_POPULATE_WRITE
   if (!run_is_first && !kSanitized) {
     // Refused by an old system, which then gives the memory as before.
     static_cast<void>(madvise(run_next, kRunPages * kPageSize, MADV_POPULATE_WRITE));
   }
+#endif
   run_is_first = false;
   return true;
 }

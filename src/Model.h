@@ -75,7 +75,7 @@ ModuleData *CreateModule(const char *name);
 bool SymbolTableInit();
 bool NamesTableInit();
 
-// A new list of the items of the kind named, in order.
+// A new list of the items of the kind named, in order; null when there are none.
 List ExtractArgumentsLists(List list);
 List ExtractCallbacksLists(List list);
 List ExtractControlsLists(List list);

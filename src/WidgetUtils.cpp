@@ -111,8 +111,7 @@ const WidgetDef *WidgetResolve(WidgetRef *reference) {
 
 // What tells one sort of list from the others: its place in a widget's notes, the kinds that stand
 // for a list inside it, what becomes of any other item, for how many it counts, and the complaint
-// when a list opens into too
-// much.
+// when a list opens into too much.
 struct FlatRules {
   std::size_t place;
   std::int32_t list_kind;

@@ -16,7 +16,7 @@
 #include "uiltoada.h"
 
 // Holds a flattened list and destroys it at the end of its scope, unless it is the model's, which
-// has a note on it.
+// has a note on it.  A list that is added to loses its note, so none may be held meanwhile.
 struct ListDestroyer {
   void operator()(List list) const {
     if (list->note == 0) {
@@ -65,7 +65,7 @@ struct TreePlace {
 
 // What has been found out about a definition, shared by all that refer to it.  As long as a line of
 // the processor's memory, for every walk over the widgets comes here.
-struct alignas(64) WidgetNotes {
+struct WidgetNotes {
   List flat[3];           // its lists opened, as far as the model has them like that
   const char *ada_name;   // null while not asked for
   WidgetEmit *emit;       // AdaWidgetProcs' record of its name, of the table with that number

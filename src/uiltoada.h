@@ -335,18 +335,20 @@ struct CbsListItem : KindRec {
 struct WidgetNotes;
 
 struct WidgetDef : SimpleObjectRec {
-  WidgetNotes *notes;      // private to WidgetUtils: what is remembered of the definition, or null
-  std::int32_t managed;    // MANAGED, UNMANAGED or NIL
-  std::int32_t gadget;     // WIDGET or GADGET
-  SimpleObjectRec *type;   // the class's WidgetClassValue, or the ProcedureDecl of the creation
-                           // procedure of a user-defined object
-  List attribs;            // attribute records as written; null while only referred to
-  List args;               // of ArgumentsList
-  List cbs;                // of CallbacksList
-  List ctls;               // of ControlsList
-  bool anon;               // defined inline, named by the translator
-  bool maybe_top;          // may be a top-level object
-  const WidgetDef *origin; // private to WidgetUtils: of a resolved reference, what it copies
+  std::int32_t managed;  // MANAGED, UNMANAGED or NIL
+  std::int32_t gadget;   // WIDGET or GADGET
+  SimpleObjectRec *type; // the class's WidgetClassValue, or the ProcedureDecl of the creation
+                         // procedure of a user-defined object
+  List attribs;          // attribute records as written; null while only referred to
+  List args;             // of ArgumentsList
+  List cbs;              // of CallbacksList
+  List ctls;             // of ControlsList
+  bool anon;             // defined inline, named by the translator
+  bool maybe_top;        // may be a top-level object
+
+  // The rest is private to WidgetUtils.
+  const WidgetDef *origin; // of a copy made for a reference, the definition
+  WidgetNotes *notes;      // what is remembered of the definition, null while nothing is
 };
 
 struct WidgetRef : SimpleObjectRec { // WIDGET_REF
