@@ -2,7 +2,7 @@
 """Lets everything fail that can fail during a translation, one thing after the other.
 
     tests/check_faults.py --program build/kivuxl --calls build/tests/libfault_calls.so
-                          --memory build/tests/libfault_memory.so [--all] [--step N] PART...
+                          --memory build/tests/libfault_memory.so [--step N] PART...
 
 A module with include files is translated with stubs, wrapper, main procedure, listing and progress
 messages, into a folder in which an older version of every unit stands.  In run k the k-th call of a
@@ -20,7 +20,7 @@ The parts:
     files     opening, closing, linking, renaming, looking at and reading files
     writes    a full disk, once and from then on, input and output errors, short writing
     signals   SIGINT, SIGTERM and SIGKILL; the last may leave temporary files, no half units
-    memory    allocations: the first and the last 200 and a part of the others; with --all each
+    memory    allocations, one and from then on all
     together  two runs at once, into one folder and into two, one of them ended by a signal
 
 What went wrong is printed, and the exit status is 1 then.
@@ -41,8 +41,6 @@ EXAMPLES = pathlib.Path(__file__).resolve().parent.parent / "examples"
 SOURCES = ("settings.uil", "settings_values.uih", "settings_lists.uih")
 LIMIT = 30  # seconds that a run may take
 FOREVER = 1 << 30
-EDGE = 200  # allocations at both ends that always fail in turn
-STEPS = 150  # between them, without --all
 MOST = 1000  # calls of a family: an end for a program that makes ever more of them
 KILLED = -signal.SIGKILL
 # The run goes on without a listing when it says so.
@@ -267,10 +265,7 @@ class Check:
         environment = {"LD_PRELOAD": self.options.memory, "KIVUXL_MEMORY": "0,0"}
         Run(self.place, environment).wait()
         count = int(self.place.report.read_bytes())
-        middle = max(count - 2 * EDGE, 0)
-        step = 1 if self.options.all else max(middle // STEPS, 1)
-        numbers = sorted({*range(1, min(EDGE, count) + 1), *range(EDGE, count - EDGE, step),
-                          *range(max(count - EDGE, 1), count + 1)})
+        numbers = range(1, count + 1, self.options.step)
         for onwards in (False, True):
             title = "allocation %%d of %d%s" % (count, " and all others" if onwards else "")
             for number in numbers:
@@ -324,8 +319,7 @@ def main():
     parser.add_argument("--program", required=True, help="the program under test")
     parser.add_argument("--calls", required=True, help="the library of faults/calls.cpp")
     parser.add_argument("--memory", default="", help="the library of faults/memory.cpp")
-    parser.add_argument("--all", action="store_true", help="fail every single allocation")
-    parser.add_argument("--step", type=int, default=1, help="leave calls out")
+    parser.add_argument("--step", type=int, default=1, help="leave calls and allocations out")
     parser.add_argument("parts", nargs="+", metavar="part",
                         choices=("files", "writes", "signals", "memory", "together"))
     options = parser.parse_args()
