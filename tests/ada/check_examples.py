@@ -14,6 +14,7 @@ import tempfile
 
 import exceptions
 import units as ada
+from kit import build_kit
 
 JOBS = 2
 EXAMPLES = ada.ROOT / "examples"
@@ -48,7 +49,7 @@ def main():
     options = parser.parse_args()
     program = str(pathlib.Path(options.program).resolve())
     cache = pathlib.Path(options.cache).resolve()
-    compiler, kit = ada.Compiler(cache / "answers"), ada.kit_objects(cache)
+    compiler, kit = ada.Compiler(cache / "answers"), build_kit(cache)
     modules = sorted(path.stem for path in EXAMPLES.glob("*.uil"))
     with concurrent.futures.ThreadPoolExecutor(JOBS) as pool:
         ends = list(pool.map(lambda module: make(program, compiler, kit, module), modules))

@@ -33,6 +33,7 @@ import tempfile
 import exceptions
 import units as ada
 from check_creation import run_with_server
+from kit import build_kit
 
 HERE = pathlib.Path(__file__).resolve().parent
 LIMITS = HERE / "limits"
@@ -150,7 +151,7 @@ def main():
     options = parser.parse_args()
     program = str(pathlib.Path(options.program).resolve())
     cache = pathlib.Path(options.cache).resolve()
-    tools = ada.Compiler(cache / "answers"), ada.kit_objects(cache)
+    tools = ada.Compiler(cache / "answers"), build_kit(cache)
     limits = sorted(path for path in LIMITS.iterdir() if path.is_dir() and
                     (not options.limits or path.name in options.limits))
     complaints = [text for limit in limits for text in check_limit(program, tools, limit)]

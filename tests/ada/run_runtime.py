@@ -34,8 +34,6 @@ by the hash of all that they were made from.
 
 import argparse
 import contextlib
-import fcntl
-import hashlib
 import os
 import pathlib
 import re
@@ -47,16 +45,12 @@ import sys
 import tempfile
 import time
 
+from kit import HASH_LENGTH, Failure, build_kit, hash_of, locked, run, units_of
+
 HERE = pathlib.Path(__file__).resolve().parent
-KIT = HERE.parents[1] / "ada"
 SUPPORT = HERE / "runtime_support"
 LIMIT = 60  # seconds for one answer, line or end
-HASH_LENGTH = 20
 EDGE = 3  # pixels of a widget's outline
-
-
-class Failure(Exception):
-    """What is wrong, in one text."""
 
 
 class Ended(Failure):
@@ -64,58 +58,6 @@ class Ended(Failure):
 
 
 # -- Building -------------------------------------------------------------------------------------
-
-
-def run(command, folder, environment=None):
-    done = subprocess.run(command, cwd=folder, env=environment, stdout=subprocess.PIPE,
-                          stderr=subprocess.STDOUT, text=True, check=False, timeout=5 * LIMIT)
-    if done.returncode != 0:
-        raise Failure(f"{' '.join(map(str, command))}: status {done.returncode}\n{done.stdout}")
-    return done.stdout
-
-
-def units_of(folder):
-    return sorted(path for path in folder.iterdir() if path.suffix in (".adb", ".ads"))
-
-
-def hash_of(paths, *texts):
-    """A name for the contents of files, and for texts."""
-    digest = hashlib.sha256()
-    for text in texts:
-        digest.update(f"{len(text)}:{text}".encode())
-    for path in paths:
-        content = path.read_bytes()
-        digest.update(f"{path.name}:{len(content)}:".encode() + content)
-    return digest.hexdigest()[:HASH_LENGTH]
-
-
-@contextlib.contextmanager
-def locked(path):
-    """Only one of several drivers at a time goes on from here."""
-    path.parent.mkdir(parents=True, exist_ok=True)
-    with open(path, "w", encoding="ascii") as lock:
-        fcntl.flock(lock, fcntl.LOCK_EX)
-        yield
-
-
-def build_kit(cache):
-    """The folder with the sources and objects of the kit and of the support package."""
-    sources = units_of(KIT) + units_of(SUPPORT)
-    compiler = run(["gnatmake", "--version"], HERE)
-    kit = cache / ("kit-" + hash_of(sources, compiler))
-    with locked(cache / "lock"):
-        if not kit.exists():
-            for old in cache.glob("kit-*"):
-                shutil.rmtree(old)
-            unfinished = cache / "unfinished"
-            shutil.rmtree(unfinished, ignore_errors=True)
-            unfinished.mkdir()
-            for source in sources:
-                shutil.copy(source, unfinished)
-            run(["gnatmake", "-q", "-c", "-O1"] + sorted({path.stem for path in sources}),
-                unfinished)
-            unfinished.rename(kit)
-    return kit
 
 
 def translate(program, test, folder):
@@ -152,7 +94,7 @@ def compile_units(folder, kit, result):
 
 def build_program(program, test, cache):
     """The compiled program of a test, from the cache if it is there."""
-    kit = build_kit(cache)
+    kit = build_kit(cache, SUPPORT)
     programs = cache / "programs"
     with tempfile.TemporaryDirectory(prefix="kivuxl-ada-") as name:
         folder = pathlib.Path(name)

@@ -8,18 +8,18 @@ first, and each unit is compiled in a folder of its own together with the units 
 that it depends on: the texts, the packages of ada/, the compiler and its options.
 """
 
-import fcntl
 import hashlib
 import json
 import os
 import pathlib
 import re
-import shutil
 import subprocess
 import tempfile
 
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-KIT = ROOT / "ada"
+from kit import KIT
+
+ROOT = KIT.parent
+
 LIMIT = 300  # seconds for one unit
 ENCODING = "latin-1"  # any byte is a character, and GNAT reads it so, too
 
@@ -271,25 +271,6 @@ def examine(compiler, units, root, mode, known):
 
 
 # -- Programs -------------------------------------------------------------------------------------
-
-
-def kit_objects(cache):
-    """A folder with the packages of ada/, compiled."""
-    cache = pathlib.Path(cache)
-    cache.mkdir(parents=True, exist_ok=True)
-    digest = Compiler(cache / "answers").base.hexdigest()
-    kit = cache / f"kit-{digest[:16]}"
-    with open(cache / "lock", "w", encoding="ascii") as lock:
-        fcntl.flock(lock, fcntl.LOCK_EX)
-        if not kit.exists():
-            for old in cache.glob("kit-*"):
-                shutil.rmtree(old)
-            unfinished = pathlib.Path(tempfile.mkdtemp(dir=cache, prefix="kit-"))
-            for source in KIT.glob("*.ad[bs]"):
-                shutil.copy(source, unfinished)
-            subprocess.run(["gnatmake", "-q", "-c", *sorted(KIT_UNITS)], cwd=unfinished, check=True)
-            unfinished.rename(kit)
-    return kit
 
 
 def build(units, main, kit, folder):
