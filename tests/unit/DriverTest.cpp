@@ -434,7 +434,7 @@ TEST_F(Exhaustion, ModelMemoryAnywhere) {
   source = kRichModule;
   const long needed = Needed(AllocFailAfter);
   EXPECT_GT(needed, vocabulary + 500);
-  for (long count = 0; count<needed; count += count> 50 && count < vocabulary ? 29 : 1) {
+  for (long count = 0; count < needed; ++count) {
     ASSERT_EQ(RunRich(AllocFailAfter, count), 1);
     ASSERT_TRUE(kMessages.contains(LastMessage(errors))) << count << ": " << errors;
   }
@@ -443,7 +443,7 @@ TEST_F(Exhaustion, ModelMemoryAnywhere) {
 TEST_F(Exhaustion, OtherMemoryAnywhere) {
   const long needed = Needed(ExhaustNew);
   EXPECT_GT(needed, 100); // less than at first: earlier runs have left room in some texts
-  for (long count = 0; count < needed; count += 2) {
+  for (long count = 0; count < needed; ++count) {
     ASSERT_EQ(RunRich(ExhaustNew, count), 1);
     ASSERT_EQ(LastMessage(errors), "Out of memory") << count << ": " << errors;
   }
