@@ -123,6 +123,16 @@ TEST(Emit, AHeldStreamGetsItsTextInOrderAtRelease) {
   EXPECT_EQ(other.Text(), "between");
 }
 
+TEST(Emit, ReleaseOfNoStreamReleasesNone) {
+  TemporaryStream held;
+  EmitHold(held.stream);
+  Emit(held.stream, "kept"_ada);
+  EmitRelease(nullptr);
+  EXPECT_EQ(held.Text(), "");
+  EmitRelease(held.stream);
+  EXPECT_EQ(held.Text(), "kept");
+}
+
 TEST(Emit, MoreStreamsThanBuffersAreWrittenAsWell) {
   std::array<TemporaryStream, 7> units;
   for (TemporaryStream &unit : units) {

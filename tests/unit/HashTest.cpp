@@ -389,6 +389,36 @@ TEST_F(Hash, ReviseKeepsWhatIsNotGiven) {
   EXPECT_EQ(HashFind(table, "A"), entry);
 }
 
+TEST_F(Hash, ReviseTakesAllThatIsGiven) {
+  destroyed.clear();
+  HashTable table = CreateSensitive(31);
+  SimpleObjectRec *entry = Entry("a");
+  HashAdd(table, entry);
+  EXPECT_TRUE(HashRevise(table, 40, CaseInsensitiveKeyFunc, ConstantHash,
+                         CaseInsensitiveCompareFunc, RecordDestroyed));
+  EXPECT_EQ(table->modulus, 40U);
+  EXPECT_EQ(table->key_func, CaseInsensitiveKeyFunc);
+  EXPECT_EQ(table->hash_func, ConstantHash);
+  EXPECT_EQ(table->compare_func, CaseInsensitiveCompareFunc);
+  EXPECT_EQ(HashFind(table, "A"), entry);
+  HashDestroy(table, true);
+  EXPECT_EQ(destroyed, (std::vector<void *>{entry}));
+}
+
+TEST_F(Hash, DestroySkipsLinksWithoutEntry) {
+  destroyed.clear();
+  HashTable table = HashCreate(31, nullptr, ConstantHash, nullptr, RecordDestroyed);
+  SimpleObjectRec *stays = Entry("stays");
+  HashAdd(table, Entry("gone"));
+  HashAdd(table, stays);
+  HashBucketRec *link = table->entries[ConstantHash("") % 31].first;
+  ASSERT_NE(link, nullptr);
+  (link->entry == stays ? link->next : link)->entry = nullptr;
+  HashDestroy(table, true);
+  EXPECT_EQ(destroyed, (std::vector<void *>{stays}));
+  EXPECT_EQ(AllocLiveBlocks(), 0U);
+}
+
 TEST_F(Hash, ReviseReversesChains) {
   HashTable table = HashCreate(31, nullptr, ConstantHash, nullptr, nullptr);
   SimpleObjectRec *one = Entry("1");

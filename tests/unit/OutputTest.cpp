@@ -201,6 +201,14 @@ TEST_F(Output, EarlierFailureIsNotForgotten) {
             "kivuxl: Error writing file \"m\".\n");
 }
 
+TEST_F(Output, WhatIsClosedIsNotClosedAgain) {
+  OutputSlot slot = Slot("text");
+  EXPECT_EQ(OutputClose(&slot, "m"), 1);
+  EXPECT_EQ(slot.stream, nullptr);
+  EXPECT_EQ(OutputClose(&slot, "m"), 1);
+  OutputDiscard(&slot);
+}
+
 TEST_F(Output, StandardOutputStaysOpen) {
   OutputSlot slot = {"-", stdout};
   EXPECT_EQ(OutputClose(&slot, "m"), 1);

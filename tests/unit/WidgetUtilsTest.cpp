@@ -650,6 +650,16 @@ TEST_F(WidgetUtils, LegalNamesDependOnTheInterface) {
   EXPECT_EQ(LegalName("_My-Name_"), "_My-Name_");
 }
 
+TEST_F(WidgetUtils, LegalTextIsTheNameItselfWhenThatIsLegal) {
+  interface_type = 3;
+  const char *plain = "my_name";
+  const char *odd = "_My-Name_";
+  EXPECT_EQ(LegalText(plain), plain);
+  EXPECT_STREQ(LegalText(odd), "my_name");
+  interface_type = 4; // where every name is
+  EXPECT_EQ(LegalText(odd), odd);
+}
+
 TEST_F(WidgetUtils, LongNamesAreMadeLegalInOnePass) {
   const auto start = std::chrono::steady_clock::now();
   // Of each run of underscores behind a letter every second one goes, beginning with the second.
