@@ -214,6 +214,8 @@ constexpr auto kRefusals = std::to_array<Refusal>({
     {"WidgetClassInit", WidgetClassInit, "Xm_Message", "Xm_OK", "Xm_OptionButton"},
     {"ArgumentNameInit", ArgumentNameInit, "XmNdirectory", "XmNdoubleClickInterval", "XmNeditMode"},
     {"ArgumentNameInit", ArgumentNameInit, "XmNeditMode", "XmNeditable", "XmNentryAlignment"},
+    {"ArgumentNameInit", ArgumentNameInit, "XmNnoResize", "XmNnumColumns", "XmNokLabelString"},
+    {"ArgumentNameInit", ArgumentNameInit, "XmNsubMenuId", "XmNsymbolPixmap", "XmNtearOffModel"},
     {"ArgumentNameInit", ArgumentNameInit, "XmNx", "XmNy", "XmNz"},
     {"ReasonNameInit", ReasonNameInit, "XmNactivateCallback", "XmNapplyCallback", "XmNarmCallback"},
     {"NonReservedWordInit", NonReservedWordInit, "case_sensitive", "file", "foreground"},
