@@ -1757,7 +1757,7 @@ package body browser_uil is
     integer_1 : constant integer := 60;
     begin
     xtr5.setarg( args( 1 ), xmdef.npaneMinimum, integer_1 );
-    self := Xm1_2_2.CreateForm(
+    self := Xm1_2_2.CreateFrame(
               parent,
               "folder_pane",
               args,
@@ -1795,7 +1795,7 @@ package body browser_uil is
     self : xtr5.widget;
     child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
     child_count : integer := 1;
-    args : xtr5.arglist( 1 .. 4 );
+    args : xtr5.arglist( 1 .. 3 );
   begin
     declare
     string_1_1 : constant string :=
@@ -1806,8 +1806,7 @@ package body browser_uil is
     font_table_entry_2_1 : xm1_2_2.fontlistentry;
     font_table_tag_2_1 : constant string :=
         Xmdef.FONTLIST_DEFAULT_TAG;
-    integer_3 : constant integer := 1;
-    integer_4 : constant integer := 1;
+    integer_3 : constant integer := 2;
     begin
     compound_string_1 :=
       xm1_2_2.stringsegmentcreate( string_1_1,
@@ -1838,13 +1837,12 @@ package body browser_uil is
         font_table_entry_2_1 );
     xtr5.free( font_table_entry_2_1 );
     xtr5.setarg( args( 2 ), xmdef.nfontList, font_table_2 );
-    xtr5.setarg( args( 3 ), xmdef.ntopAttachment, integer_3 );
-    xtr5.setarg( args( 4 ), xmdef.nleftAttachment, integer_4 );
+    xtr5.setarg( args( 3 ), xmdef.nchildType, integer_3 );
     self := Xm1_2_2.CreateLabel(
               parent,
               "folder_title",
               args,
-              4 );
+              3 );
     if current_top_level = xtr5.xtnull then      current_top_level := self;
     end if;
     xm1_2_2.stringfree( compound_string_1 );
@@ -1860,7 +1858,7 @@ package body browser_uil is
     self : xtr5.widget;
     child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
     child_count : integer := 1;
-    args : xtr5.arglist( 1 .. 15 );
+    args : xtr5.arglist( 1 .. 10 );
   begin
     declare
     compound_string_table_1 : xm1_2_2.xmstringlist( 1 .. 5 ) := ( others => xtr5.xtnull );
@@ -1874,10 +1872,6 @@ package body browser_uil is
         Xmdef.FONTLIST_DEFAULT_TAG;
     font_table_entry_8_2 : xm1_2_2.fontlistentry;
     font_table_tag_8_2 : constant string := "iso_latin2";
-    integer_9 : constant integer := 3;
-    integer_10 : constant integer := 1;
-    integer_11 : constant integer := 1;
-    integer_12 : constant integer := 1;
     begin
     declare
     string_1_1 : constant string :=
@@ -1983,15 +1977,11 @@ package body browser_uil is
         font_table_entry_8_2 );
     xtr5.free( font_table_entry_8_2 );
     xtr5.setarg( args( 8 ), xmdef.nfontList, font_table_8 );
-    xtr5.setarg( args( 9 ), xmdef.ntopAttachment, integer_9 );
-    xtr5.setarg( args( 10 ), xmdef.nbottomAttachment, integer_10 );
-    xtr5.setarg( args( 11 ), xmdef.nleftAttachment, integer_11 );
-    xtr5.setarg( args( 12 ), xmdef.nrightAttachment, integer_12 );
     self := Xm1_2_2.CreateScrolledList(
               parent,
               "folder_list",
               args,
-              12 );
+              8 );
     if current_top_level = xtr5.xtnull then      current_top_level := self;
     end if;
     for index_1 in compound_string_table_1'range loop
@@ -2092,7 +2082,7 @@ package body browser_uil is
     integer_1 : constant integer := 100;
     begin
     xtr5.setarg( args( 1 ), xmdef.npaneMinimum, integer_1 );
-    self := Xm1_2_2.CreateForm(
+    self := Xm1_2_2.CreateFrame(
               parent,
               "file_pane",
               args,
@@ -2130,7 +2120,7 @@ package body browser_uil is
     self : xtr5.widget;
     child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
     child_count : integer := 1;
-    args : xtr5.arglist( 1 .. 4 );
+    args : xtr5.arglist( 1 .. 3 );
   begin
     declare
     string_1_1 : constant string :=
@@ -2141,8 +2131,7 @@ package body browser_uil is
     font_table_entry_2_1 : xm1_2_2.fontlistentry;
     font_table_tag_2_1 : constant string :=
         Xmdef.FONTLIST_DEFAULT_TAG;
-    integer_3 : constant integer := 1;
-    integer_4 : constant integer := 1;
+    integer_3 : constant integer := 2;
     begin
     compound_string_1 :=
       xm1_2_2.stringsegmentcreate( string_1_1,
@@ -2173,13 +2162,12 @@ package body browser_uil is
         font_table_entry_2_1 );
     xtr5.free( font_table_entry_2_1 );
     xtr5.setarg( args( 2 ), xmdef.nfontList, font_table_2 );
-    xtr5.setarg( args( 3 ), xmdef.ntopAttachment, integer_3 );
-    xtr5.setarg( args( 4 ), xmdef.nleftAttachment, integer_4 );
+    xtr5.setarg( args( 3 ), xmdef.nchildType, integer_3 );
     self := Xm1_2_2.CreateLabel(
               parent,
               "file_title",
               args,
-              4 );
+              3 );
     if current_top_level = xtr5.xtnull then      current_top_level := self;
     end if;
     xm1_2_2.stringfree( compound_string_1 );
@@ -2195,7 +2183,7 @@ package body browser_uil is
     self : xtr5.widget;
     child_lists : array( 1 .. 0 ) of xtr5.widgetlist_ptr;
     child_count : integer := 1;
-    args : xtr5.arglist( 1 .. 14 );
+    args : xtr5.arglist( 1 .. 9 );
   begin
     declare
     compound_string_table_1 : xm1_2_2.xmstringlist( 1 .. 2 ) := ( others => xtr5.xtnull );
@@ -2209,10 +2197,6 @@ package body browser_uil is
         Xmdef.FONTLIST_DEFAULT_TAG;
     font_table_entry_7_2 : xm1_2_2.fontlistentry;
     font_table_tag_7_2 : constant string := "iso_latin2";
-    integer_8 : constant integer := 3;
-    integer_9 : constant integer := 1;
-    integer_10 : constant integer := 1;
-    integer_11 : constant integer := 1;
     begin
     declare
     string_1_1 : constant string :=
@@ -2274,15 +2258,11 @@ package body browser_uil is
         font_table_entry_7_2 );
     xtr5.free( font_table_entry_7_2 );
     xtr5.setarg( args( 7 ), xmdef.nfontList, font_table_7 );
-    xtr5.setarg( args( 8 ), xmdef.ntopAttachment, integer_8 );
-    xtr5.setarg( args( 9 ), xmdef.nbottomAttachment, integer_9 );
-    xtr5.setarg( args( 10 ), xmdef.nleftAttachment, integer_10 );
-    xtr5.setarg( args( 11 ), xmdef.nrightAttachment, integer_11 );
     self := Xm1_2_2.CreateScrolledList(
               parent,
               "file_list",
               args,
-              11 );
+              7 );
     if current_top_level = xtr5.xtnull then      current_top_level := self;
     end if;
     for index_1 in compound_string_table_1'range loop
@@ -2523,24 +2503,15 @@ package body browser_uil is
   procedure kivu_post_folder_title( parent : in xtr5.widget;
       widgets : in xtr5.widgetlist_ptr;
       index : in xtr5.int ) is
-    args : xtr5.arglist( 1 .. 4 );
+    args : xtr5.arglist( 1 .. 3 );
   begin
     null;
   end kivu_post_folder_title;
   procedure kivu_post_folder_list( parent : in xtr5.widget;
       widgets : in xtr5.widgetlist_ptr;
       index : in xtr5.int ) is
-    args : xtr5.arglist( 1 .. 15 );
+    args : xtr5.arglist( 1 .. 10 );
   begin
-    declare
-    widget_1 : xtr5.widget := xtr5.xtnull;
-    widget_string_1 : constant string := "*folder_title";
-    begin
-    widget_1 := xtr5.nametowidget( current_top_level,
-                             widget_string_1 );
-    xtr5.setarg( args( 1 ), xmdef.ntopWidget, widget_1 );
-    XtR5.SetValues( widgets( index ), args, 1 );
-    end;
     null;
   end kivu_post_folder_list;
   procedure kivu_post_file_pane( parent : in xtr5.widget;
@@ -2555,24 +2526,15 @@ package body browser_uil is
   procedure kivu_post_file_title( parent : in xtr5.widget;
       widgets : in xtr5.widgetlist_ptr;
       index : in xtr5.int ) is
-    args : xtr5.arglist( 1 .. 4 );
+    args : xtr5.arglist( 1 .. 3 );
   begin
     null;
   end kivu_post_file_title;
   procedure kivu_post_file_list( parent : in xtr5.widget;
       widgets : in xtr5.widgetlist_ptr;
       index : in xtr5.int ) is
-    args : xtr5.arglist( 1 .. 14 );
+    args : xtr5.arglist( 1 .. 9 );
   begin
-    declare
-    widget_1 : xtr5.widget := xtr5.xtnull;
-    widget_string_1 : constant string := "*file_title";
-    begin
-    widget_1 := xtr5.nametowidget( current_top_level,
-                             widget_string_1 );
-    xtr5.setarg( args( 1 ), xmdef.ntopWidget, widget_1 );
-    XtR5.SetValues( widgets( index ), args, 1 );
-    end;
     null;
   end kivu_post_file_list;
 end browser_uil;
