@@ -68,8 +68,9 @@ TEST_F(Scanner, Floats) {
 }
 
 TEST_F(Scanner, ExponentNeedsDigits) {
-  EXPECT_EQ(TokensOf("1e+ 1.5e 1.5e-x"),
-            "1 | e | + | float 1.500000 | e | float 1.500000 | e | - | x");
+  EXPECT_EQ(TokensOf("1e+ 1.5e 1.5e-x .5e -.5E+y"),
+            "1 | e | + | float 1.500000 | e | float 1.500000 | e | - | x | float 0.500000 | e | "
+            "float -0.500000 | E | + | y");
 }
 
 TEST_F(Scanner, NumbersLeaveTheKindAlone) {
