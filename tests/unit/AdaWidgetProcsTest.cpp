@@ -807,6 +807,12 @@ TEST_F(AdaWidgetProcs, CallbacksAreNumberedInTraversalOrder) {
 
 // -- Emit records ------------------------------------------------------------------------------
 
+TEST_F(AdaWidgetProcs, TableHasTheBucketsOfEveryTable) {
+  EXPECT_EQ(widget_table->modulus, 511U);
+  IgnoreCase();
+  EXPECT_EQ(widget_table->modulus, 511U);
+}
+
 TEST_F(AdaWidgetProcs, RecordsAreKeptByName) {
   WidgetDef *widget = Define("w", "XmForm");
   WidgetEmit *record = WidgetEmitRecord(widget);

@@ -24,7 +24,8 @@ protected:
     OpenText(text);
     std::string result;
     ConfigLine line;
-    while (cfg_file_parse_line(&line) != 0) {
+    for (int found = cfg_file_parse_line(&line); found != 0; found = cfg_file_parse_line(&line)) {
+      EXPECT_EQ(found, 1);
       EXPECT_EQ(line.cfg_argv.size(), static_cast<std::size_t>(line.nargs) + 1);
       EXPECT_EQ(line.cfg_argv.back(), nullptr);
       for (int i = 0; i < line.nargs; ++i) {

@@ -90,6 +90,16 @@ TEST_F(Files, IncludeIsFoundInTheSecondDirectoryUnderItsPath) {
                       "  syntax: expected [1]: \"@\" substituting whitespace\n\n");
 }
 
+TEST_F(Files, ClosingTellsWhetherAFileIsLeft) {
+  Put("b.uil", "b");
+  Open("a");
+  ASSERT_NE(FilesOpen("b.uil", true), nullptr);
+  EXPECT_EQ(FilesClose(), 1);
+  EXPECT_EQ(FilesDepth(), 1);
+  EXPECT_EQ(FilesClose(), 0);
+  EXPECT_EQ(Tokens(), "a");
+}
+
 TEST_F(Files, IncludeThatNoDirectoryHasIsNone) {
   FilesAddPath("none");
   Open("a");

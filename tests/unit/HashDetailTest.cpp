@@ -221,6 +221,22 @@ TEST(HashDetail, EmptyTextIsAName) {
 
 static std::uint32_t Const(const char *) { return 5; }
 
+// The index is fast only while names that differ little lie apart.
+TEST(HashDetail, EveryByteOfATextCounts) {
+  for (std::size_t length = 1; length <= 25; ++length) {
+    const std::string text(length, 'm');
+    for (std::size_t place = 0; place < length; ++place) {
+      std::string other = text;
+      other[place] = 'n';
+      EXPECT_NE(HashText(text.c_str(), false), HashText(other.c_str(), false)) << other;
+      EXPECT_NE(HashText(text.c_str(), true), HashText(other.c_str(), true)) << other;
+      other[place] = 'M';
+      EXPECT_NE(HashText(text.c_str(), false), HashText(other.c_str(), false)) << other;
+      EXPECT_EQ(HashText(text.c_str(), true), HashText(other.c_str(), true)) << other;
+    }
+  }
+}
+
 TEST(HashDetail, AnotherHashFunctionLooksInItsOwnChain) {
   SimpleObjectRec first = Named("abc");
   SimpleObjectRec second = Named("abc");
