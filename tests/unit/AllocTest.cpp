@@ -2,6 +2,7 @@
 
 #include "Alloc.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -47,6 +48,16 @@ TEST_F(Alloc, BlocksAreAlignedForEveryType) {
     Fill(block, size, 0xa5);
   }
   EXPECT_EQ(AllocLiveBlocks(), 100U);
+}
+
+// At 100,000 widgets the place between them would be many times their own.
+TEST_F(Alloc, BlocksOfUpToAKilobyteStandSideBySide) {
+  for (const std::size_t size : {1U, 8U, 72U, 1000U, 1023U, 1024U}) {
+    AllocReset();
+    const auto first = reinterpret_cast<std::uintptr_t>(_MAlloc(size));
+    const auto second = reinterpret_cast<std::uintptr_t>(_MAlloc(size));
+    EXPECT_LE(std::max(first, second) - std::min(first, second), size + 64) << size;
+  }
 }
 
 TEST_F(Alloc, FreeTakesBlocksInAnyOrder) {

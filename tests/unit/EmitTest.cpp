@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include "AdaArgument.h"
+
 namespace {
 
 // A stream in memory; Text() closes it and gives what was written.
@@ -79,6 +81,8 @@ TEST(Emit, OtherConversionsAreTheLibrarys) {
   EXPECT_EQ(memory.Text(),
             "val(   7 ) 1 010 x 000000ff2 100%.\n1.500000E+00 and -2.500000000000000E-01");
 }
+
+TEST(Emit, LibraryMayWriteNothing) { EXPECT_EQ(ExpressionFormat("%.0s", "x"), ""); }
 
 TEST(Emit, NoTextIsWrittenAsTheLibraryDoes) {
   MemoryStream memory;

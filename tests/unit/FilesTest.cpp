@@ -239,6 +239,21 @@ TEST_F(Files, ListingIsNoInclude) {
   EXPECT_NE(FilesOpen("b.uil", true), nullptr);
 }
 
+TEST_F(Files, ListingOnTheFirstDescriptorIsNoInclude) {
+  Put("list", "x");
+  listing_filename = "list";
+  Open("a");
+  EXPECT_EQ(ErrorsOf([] {
+              const WithoutStandardInput without;
+              const Stream closing(std::fopen("list", "r+"));
+              listing_fp = closing.get();
+              EXPECT_EQ(fileno(listing_fp), 0);
+              FilesOpen("list", true);
+            }),
+            "kivuxl: Output file list is also an input.\n[exit 1]");
+  listing_fp = nullptr; // closed
+}
+
 TEST_F(Files, OpeningWithoutMemoryIsFatal) {
   Put("a", "x");
   const std::string no_memory = "kivuxl: FilesOpen: Memory allocation failure.\n[exit 1]";
@@ -261,7 +276,7 @@ TEST_F(Files, CopyHasTheSameBytes) {
   for (int i = 0; i < 20000; ++i) {
     bytes += static_cast<char>(i * 7);
   }
-  for (const std::size_t size : {std::size_t{0}, std::size_t{8192}, bytes.size()}) {
+  for (const std::size_t size : {0U, 1U, 8192U, 8193U, 20000U}) {
     Put("from", bytes.substr(0, size));
     EXPECT_EQ(ErrorsOf([] { EXPECT_EQ(FilesCopyFile("from", "to"), 1); }), "");
     EXPECT_EQ(Contents("to"), bytes.substr(0, size));

@@ -48,6 +48,12 @@ protected:
     }
   }
 
+  // How many buckets the table has.
+  static std::uint32_t Buckets(bool (*init)(), const HashTable *table) {
+    EXPECT_TRUE(init());
+    return (*table)->modulus;
+  }
+
   // Takes a name before the vocabulary comes.
   void Claim(const char *name) {
     claimed.kind = SYMBOL;
@@ -76,6 +82,14 @@ protected:
 
   BareWord claimed{};
 };
+
+TEST_F(Initialize, EveryTableHasTheSameBuckets) {
+  for (const bool sensitive : {true, false}) {
+    case_sensitive = sensitive;
+    EXPECT_EQ(Buckets(SymbolTableInit, &symbol_table), 511U);
+    EXPECT_EQ(Buckets(NamesTableInit, &names_table), 511U);
+  }
+}
 
 TEST_F(Initialize, EachTableAddsItsRows) {
   unsigned entries = 0;

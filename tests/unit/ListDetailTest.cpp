@@ -44,6 +44,30 @@ int CompareText(const void *key, const void *item_key) {
 const void *Itself(void *item) { return item; }
 } // namespace
 
+TEST(ListDetail, EveryChangeForgetsTheNote) {
+  List list = Of({a, b, c});
+  const auto note_after = [list](const auto &change) {
+    list->note = 7;
+    change();
+    return list->note;
+  };
+  List other = Of({d});
+  List inserted = Of({d, e});
+  EXPECT_EQ(Of({})->note, 0U);
+  EXPECT_EQ(0U, note_after([list] { ListAppendItem(list, e); }));
+  EXPECT_EQ(0U, note_after([list] { ListPrependItem(list, b, e); }));
+  EXPECT_EQ(0U, note_after([list] { ListDeleteItem(list, b); }));
+  EXPECT_EQ(0U, note_after([=] { ListAppend(list, other); }));
+  EXPECT_EQ(0U, note_after([=] { ListSubstitute(list, c, inserted); }));
+  EXPECT_EQ("aedeed", Text(list));
+  EXPECT_EQ(0U, note_after([=] { ListSubstitute(list, a, nullptr); }));
+  EXPECT_EQ(0U, note_after([list] { ListDestroyItems(list); }));
+  other->note = 7;
+  ListAppendItem(other, a);
+  EXPECT_EQ(0U, other->note);
+  EXPECT_EQ(7U, note_after([=] { ListFindFirst(list, a); }));
+}
+
 TEST(ListDetail, DeletingUnderTheCursorKeepsThePredecessor) {
   List list = Of({a, b, c});
   ListInitTraverse(list);

@@ -488,6 +488,17 @@ TEST_F(Listing, FileIsEmptiedWhenItIsWritten) {
   EXPECT_EQ(Contents("list"), Header(1) + Row("000001: a") + kFooter);
 }
 
+TEST_F(Listing, FileOnTheFirstDescriptorIsEmptiedToo) {
+  Put("list", "old");
+  const WithoutStandardInput without;
+  const Stream closing(std::fopen("list", "r+"));
+  listing_fp = closing.get();
+  ASSERT_EQ(fileno(listing_fp), 0);
+  EXPECT_EQ(WriteListing(), 0);
+  listing_fp = nullptr;
+  EXPECT_EQ(Contents("list"), "");
+}
+
 TEST_F(Listing, FileThatCannotBeEmptiedIsFatal) {
   Put("list", "old");
   listing_filename = "list";

@@ -95,6 +95,16 @@ TEST_F(Output, TemporaryFilesArePrivateAndFresh) {
   EXPECT_EQ(All(), (std::set<std::string>{}));
 }
 
+TEST_F(Output, TemporaryFileMayHaveTheFirstDescriptor) {
+  const WithoutStandardInput without;
+  OutputSlot slot = Slot("1");
+  ASSERT_NE(slot.stream, nullptr);
+  EXPECT_EQ(fileno(slot.stream), 0);
+  EXPECT_TRUE(slot.name.starts_with("tmp/kivut")) << slot.name;
+  OutputDiscard(&slot);
+  EXPECT_EQ(All(), (std::set<std::string>{}));
+}
+
 TEST_F(Output, EnvironmentNamesTheFirstDirectory) {
   std::filesystem::create_directory("env");
   setenv("TMPDIR", "env", 1);

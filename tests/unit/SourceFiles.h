@@ -4,6 +4,9 @@
 // For tests of what reads sources: each test runs in a fresh directory of its own, with the
 // program put back to its start and the symbol table empty.
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -22,6 +25,19 @@
 #include "Model.h"
 #include "Options.h"
 #include "Scanner.h"
+
+// Leaves descriptor 0 to what is opened next, for one scope.  Used inside ErrorsOf, which would
+// take it, and around the streams that get it.
+struct WithoutStandardInput {
+  int saved = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 10);
+  WithoutStandardInput() { close(STDIN_FILENO); }
+  ~WithoutStandardInput() {
+    dup2(saved, STDIN_FILENO);
+    close(saved);
+  }
+  WithoutStandardInput(const WithoutStandardInput &) = delete;
+  WithoutStandardInput &operator=(const WithoutStandardInput &) = delete;
+};
 
 class SourceFiles : public testing::Test {
 protected:
