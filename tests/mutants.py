@@ -72,6 +72,8 @@ UNSEEN = [
     ("Listing.cpp", "constant", r"if \(start < 1\) \{", "nothing is dropped left of column 0"),
     ("Listing.cpp", "constant", r"if \(line == nullptr \|\| line->complete \|\| length <= 1 .*",
      "a single character may take the way of a line's end"),
+    ("ParseValues.cpp", "comparison", r"return font.kind != FONT \? FontCopy\(.*",
+     "a font and a font set are copied alike"),
     ("Types.cpp", "comparison", r"return kind > 0 && kind < MAX_TOKENS \? token_types.*",
      "no type has the number 0"),
     ("Types.cpp", "constant", r"return kind >= 1 && kind < MAX_TOKENS \? token_types.*",

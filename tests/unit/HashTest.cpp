@@ -553,6 +553,20 @@ TEST_F(Hash, FindSurvivesExhaustion) {
   EXPECT_EQ(HashFind(table, "a"), entry);
 }
 
+// A name that is its own key is looked up as it stands, without a copy and by the index.
+TEST_F(Hash, FindOfANameTakesNoMemory) {
+  HashTable table = CreateSensitive(31);
+  SimpleObjectRec *first = Entry("a");
+  SimpleObjectRec *second = Entry("b");
+  ASSERT_TRUE(HashAdd(table, first));
+  ASSERT_TRUE(HashAdd(table, second));
+  AllocFailAfter(0);
+  EXPECT_EQ(HashFind(table, "a"), first);
+  EXPECT_EQ(HashFind(table, "b"), second);
+  EXPECT_EQ(HashFind(table, "c"), nullptr);
+  AllocFailAfter(-1);
+}
+
 TEST_F(Hash, ReviseSurvivesExhaustionAtEveryAllocation) {
   HashTable table = CreateSensitive(31);
   std::vector<SimpleObjectRec *> entries;
