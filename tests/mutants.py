@@ -49,28 +49,36 @@ KEYED_TABLES = {"paired_args", "odd_trans", "kPopupClasses", "kFamilies", "kShel
                 "kCopies", "kConversions", "kShellBySuffix", "kShellNameSuffix",
                 "get_child_fn_name", "get_child_arg_name"}
 
-# Changes of which nothing can be seen: (source, kind, expression for the lines after the change,
-# without the blanks around them, why).  The expression may begin with the line before those.  Each
-# entry names a change that is made, or the run ends at once.
+# Changes of which nothing can be seen: (expression for the source, kind, expression for the lines
+# after the change, without the blanks around them, why).  The latter expression may begin with the
+# line before those.  Each entry names a change that is made, or the run ends at once.
 UNSEEN = [
     # How texts are spread over an index, and when it grows, is a matter of speed.
     ("Hash.cpp", "constant", r"hash \^= hash >> 3[34];", "all texts are spread alike"),
     ("Hash.cpp", "constant", r"return static_cast<std::uint32_t>\(hash >> 33\);",
      "all texts are spread alike"),
     # Sizes of buffers.
-    ("Error.cpp", "constant", r"std::vsnprintf\(text.data\(\), text.size\(\) \+ 2, .*",
+    ("(Error|Emit).cpp", "constant", r"std::vsnprintf\(text.data\(\), text.size\(\) \+ 2, .*",
      "the text has the length that was counted before"),
-    ("Emit.cpp", "constant", r"std::array<char, 17> digits.*", "no number has more digits"),
+    ("Emit.cpp", "constant", r"constexpr std::size_t kUnitText(Size|s) = \d+;.*",
+     "what has no room is written at once"),
+    ("Emit.cpp", "constant", r"if \(.* && std::setvbuf\(file, nullptr, _IONBF, 1\) == 0\) \{",
+     "a stream without a buffer has none of any size"),
+    ("Files.cpp", "constant", r"constexpr (int|std::size_t) k(ScannerBufferSize|CopyBlock) = \d+;",
+     "a file is read on until it ends"),
     ("Listing.cpp", "constant", r"auto \*text = static_cast<char \*>\(_SmartMalloc\(2, &size\)\);",
      "the size is rounded up to 12 in any case"),
     ("Listing.cpp", "constant", r"std::size_t size = 1;",
      "the allocation sets it, and without memory the run ends"),
     # Both ways lead to the same.
+    ("(AdaWidgetProcs|AdaWidgets|Hash|List|WidgetUtils).cpp", "constant",
+     r".*SafeStrcmp\(.*(, 2|\? 2 : 0)\).*", "every number but 0 says that case counts"),
+    ("Convert.cpp", "constant", r"static int error_count = 1;.*", "a run begins with a reset"),
     ("AdaWidgetProcs.cpp", "comparison", r"return size >= largest - offset \? largest : offset .*",
      "when both sides are equal the sum is the largest number"),
     ("Listing.cpp", "comparison", r"if \(start <= 0\) \{", "nothing is dropped left of column 0"),
     ("Listing.cpp", "constant", r"if \(start < 1\) \{", "nothing is dropped left of column 0"),
-    ("Listing.cpp", "constant", r"if \(line == nullptr \|\| line->complete \|\| length <= 1 .*",
+    ("Listing.cpp", "constant", r"if \(line == nullptr \|\| length <= 1 .*",
      "a single character may take the way of a line's end"),
     ("ParseValues.cpp", "comparison", r"return font.kind != FONT \? FontCopy\(.*",
      "a font and a font set are copied alike"),
@@ -159,7 +167,7 @@ def text_mutants(path, text, literals):
                 yield Mutant("text", path, *piece.span(), other)
 
 
-LITERAL_LINE = re.compile(r'[ \t]+("(?:[^"\\]|\\.)*")[,;)]*$')
+LITERAL_LINE = re.compile(r'[ \t]+("(?:[^"\\]|\\.)*")(?:_\w+)?[,;)]*$')
 ROW_LINE = re.compile(r"[ \t]+(\{.*\}),?(?:[ \t]*//.*)?$")
 TABLE = re.compile(r".*\b(\w+)\[\] = \{$")
 CALL_LINE = re.compile(
@@ -243,7 +251,7 @@ def unseen_entry(mutant, text):
     with_previous = text.split("\n")[number - 2].strip() + "\n" + after.strip()
     for entry in UNSEEN:
         name, kind, lines, _ = entry
-        if (mutant.path.name, mutant.kind) == (name, kind) and (
+        if mutant.kind == kind and re.fullmatch(name, mutant.path.name) and (
                 re.fullmatch(lines, after.strip()) or re.fullmatch(lines, with_previous)):
             return entry
     return None
