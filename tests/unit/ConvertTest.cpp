@@ -48,6 +48,13 @@ TEST_F(Conversion, ProgressOutsideCIsNone) {
                                     "Writing listing file main.lis\n");
 }
 
+TEST_F(Conversion, SuccessIsOne) {
+  Put("main.uil", "module m\nend module;\n");
+  verbose = 0;
+  EXPECT_EQ(Convert("main.uil"), 1);
+  EXPECT_TRUE(std::filesystem::exists("m_uil.ads"));
+}
+
 // "-" is no name that -main takes.
 TEST_F(Conversion, MainProgramOnStandardOutputIsToldInAComment) {
   no_uil = true;
