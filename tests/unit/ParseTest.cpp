@@ -65,6 +65,32 @@ protected:
 
 using Strings = std::vector<std::string>;
 
+// No unit shows which of its options a character set without a name has been given.
+TEST_F(Parse, OptionsOfACharacterSetAreItsOwn) {
+  EXPECT_EQ(ParseText("module m value "
+                      "n : #character_set ('x') \"t\"; "
+                      "r : #character_set ('x', right_to_left = true) \"t\"; "
+                      "s : #character_set ('x', sixteen_bit = true) \"t\"; "
+                      "o : #character_set ('x', right_to_left = true, right_to_left = false, "
+                      "sixteen_bit = true) \"t\"; "
+                      "end module;"),
+            "");
+  const auto options = [](const char *name) {
+    const auto *run =
+        static_cast<const StringCharSet *>(ListGetFirst(Value<StringValue>(name).charsets));
+    std::string text;
+    for (const bool option :
+         {run->charset->parse_dir, run->charset->write_dir, run->charset->sixteen_bit}) {
+      text += option ? '1' : '0';
+    }
+    return text;
+  };
+  EXPECT_EQ(options("n"), "000");
+  EXPECT_EQ(options("r"), "110");
+  EXPECT_EQ(options("s"), "001");
+  EXPECT_EQ(options("o"), "001");
+}
+
 TEST_F(Parse, VersionNumberIsWrittenWithThreeDecimalsInEightPlaces) {
   EXPECT_EQ(ParseText("module m version = 2 end module;"), "");
   EXPECT_STREQ(uil_version, "2.000   ");
