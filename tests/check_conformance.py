@@ -31,7 +31,6 @@ RECORD = pathlib.Path("doc") / "conformance.md"
 # Texts that no test can show, with the reason.
 UNSHOWN = {
     "two rows for one kind": "a static_assert",
-    " Creating main program ": "the form of a `-main` of \"-\", which the options never give",
     "transientShell": "compared with the class of a shell, never written",
     "#rrrrggggbbbb": "stands for its length only",
     ".kivut": "the name of a file that lives for an instant beside a unit",
