@@ -73,6 +73,21 @@ TEST_F(Scanner, ExponentNeedsDigits) {
             "float -0.500000 | E | + | y");
 }
 
+TEST_F(Scanner, WhatOnlyBeginsLikeALongerTokenEndsInTime) {
+  EXPECT_EQ(TokensOf("12e+.5 12e+5e+5 -.5e+ +1E-1E- 1.5E- .5e"),
+            "12 | e | float 0.500000 | float 1200000.000000 | e | 5 | float -0.500000 | e | + | "
+            "float 0.100000 | E | - | float 1.500000 | E | - | float 0.500000 | e");
+  EXPECT_EQ(Report(), "");
+}
+
+TEST_F(Scanner, SignBeforeAPointAloneIsAnOperator) {
+  EXPECT_EQ(TokensOf("x +.a\n-.e5"), "x | + | a | - | e5");
+  EXPECT_EQ(Report(), "main.uil(1): x +.a\n"
+                      "  syntax: expected [4]: \".\" substituting whitespace\n\n"
+                      "main.uil(2): -.e5\n"
+                      "  syntax: expected [2]: \".\" substituting whitespace\n\n");
+}
+
 TEST_F(Scanner, NumbersLeaveTheKindAlone) {
   yylval.kind = 77;
   GetInteger("5");
@@ -246,7 +261,8 @@ TEST_F(Scanner, ZeroByteStandsInTheLiteral) {
 }
 
 TEST_F(Scanner, DigitsWithoutClosingBackslashAreOrdinary) {
-  EXPECT_EQ(TokensOf(R"('\101' '\12x\n')"), R"(single "101" | single "12x\n")");
+  EXPECT_EQ(TokensOf(R"('\101' '\12x\n' "\9" "\1x\2")"),
+            R"(single "101" | single "12x\n" | double "9" | double "1x2")");
 }
 
 TEST_F(Scanner, StringsHoldAnyCharacterButANewline) {
