@@ -131,15 +131,6 @@ static bool FlushListing() {
   return true;
 }
 
-static bool CloseListing() {
-  if (listing_fp == nullptr) {
-    return true;
-  }
-  const bool closed = std::fclose(listing_fp) == 0;
-  listing_fp = nullptr;
-  return closed || ReportBadListing();
-}
-
 // Whether the open listing still stands under its name as a file of its own: not under a link, and
 // not replaced by a unit of that name.
 static bool IsListingInPlace() {
@@ -150,19 +141,28 @@ static bool IsListingInPlace() {
          named.st_ino == open.st_ino;
 }
 
-// Removes an open listing, unless its name is a device's, a pipe's or a link's: /dev/stdout stays,
-// whatever it leads to.
-static void DropListing() {
-  if (listing_fp == nullptr) {
-    return;
-  }
+// Closes the open listing.  One that is not to stay, or cannot be closed and so is not whole, is
+// removed, unless its name is a device's, a pipe's or a link's: /dev/stdout stays, whatever it
+// leads to.
+static bool EndListing(bool stays) {
   const bool is_file = IsListingInPlace();
-  std::fclose(listing_fp);
+  const bool closed = std::fclose(listing_fp) == 0;
   listing_fp = nullptr;
-  if (is_file) {
+  if (is_file && !(stays && closed)) {
     unlink(listing_filename->c_str());
   }
   OutputEndsInPlace(*listing_filename);
+  return closed;
+}
+
+static bool CloseListing() {
+  return listing_fp == nullptr || EndListing(true) || ReportBadListing();
+}
+
+static void DropListing() {
+  if (listing_fp != nullptr) {
+    EndListing(false);
+  }
 }
 
 // -- Reading the module ------------------------------------------------------------------------

@@ -374,10 +374,16 @@ void WriteLine(std::FILE *stream, const ListingLine *line, std::int64_t *row_cou
 static void EmptyListingFile() {
   struct stat status {};
   const int descriptor = fileno(listing_fp);
-  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+  if (descriptor < 0) {
     return;
   }
   const std::string name = listing_filename.value_or("");
+  if (fstat(descriptor, &status) != 0) {
+    FatalErrorFormat("Error writing file \"%s\"", name.c_str());
+  }
+  if (!S_ISREG(status.st_mode)) {
+    return;
+  }
   OutputBeginsInPlace(name);
   if (ftruncate(descriptor, 0) != 0) {
     OutputEndsInPlace(name);

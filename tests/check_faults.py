@@ -115,7 +115,8 @@ class Place:
             folder.mkdir()
         for name in SOURCES:
             shutil.copy(EXAMPLES / name, self.work)
-        self.old, self.new, self.listing, self.progress = {}, {}, b"", b""
+        self.old, self.new, self.progress = {}, {}, b""
+        self.old_listing, self.listing = b"", b""
 
     def learn(self):
         """Notes what comes out when nothing fails."""
@@ -124,6 +125,7 @@ class Place:
         self.new = contents(self.units)
         self.old = {name: old_version(name) for name in self.new}
         self.listing = (self.work / "list").read_bytes()
+        self.old_listing = b"an old, longer listing\n" + self.listing
         self.progress = self.stdout.read_bytes()
 
     def restore(self):
@@ -133,7 +135,7 @@ class Place:
                 path.unlink()
         for name, text in self.old.items():
             (self.units / name).write_bytes(text)
-        (self.work / "list").write_bytes(b"an old listing\n")
+        (self.work / "list").write_bytes(self.old_listing)
 
     def met(self):
         """Whether the last run came to its fault."""
@@ -151,9 +153,9 @@ class Place:
     def listing_faults(self, status):
         """A listing that stays is a whole one."""
         path = self.work / "list"
-        right = [b"an old listing\n", self.listing]
+        right = [self.old_listing, self.listing]
         if status == 0 and self.stderr.read_bytes() == NO_LISTING:
-            right = [b"an old listing\n"]
+            right = [self.old_listing]
         elif status == 0:
             right = [self.listing]
         elif not path.exists():

@@ -8,9 +8,10 @@
 // KIVUXL_FAULTS holds rules, each ended by ";":
 //     <family>,<first>,<last>,<action>
 // Calls number <first> to <last> of the family, counted from 1, meet the action: an error number,
-// 0 for writing or reading half of what was asked, or a signal's number with "-" in front.  The
-// family "any" is every call of the table.  KIVUXL_FAULTS_REPORT names a file into which an "F" is
-// written whenever the last rule is applied, which comes before the others.
+// 0 for writing or reading half of what was asked, or a signal's number with "-" in front.  A file
+// that cannot be closed loses its last byte.  The family "any" is every call of the table.
+// KIVUXL_FAULTS_REPORT names a file into which an "F" is written whenever the last rule is applied,
+// which comes before the others.
 //
 // Writing to standard error belongs to no family, or the message that must come could not.
 
@@ -199,6 +200,14 @@ static long CarryOut(long number, const ucontext_t *context, long third) {
                  Argument(context, 4), Argument(context, 5));
 }
 
+// A file that cannot be closed after writing has not kept what was written last.
+static void LoseEnd(long descriptor) {
+  const long size = RawCall(SYS_lseek, descriptor, 0L, long{SEEK_END}, 0L, 0L, 0L);
+  if (size > 0) {
+    RawCall(SYS_ftruncate, descriptor, size - 1, 0L, 0L, 0L, 0L);
+  }
+}
+
 static long Apply(const Rule &rule, long number, const ucontext_t *context) {
   const long third = Argument(context, 2);
   if (report >= 0 && &rule == &rules[rule_count - 1]) {
@@ -213,6 +222,7 @@ static long Apply(const Rule &rule, long number, const ucontext_t *context) {
     return CarryOut(number, context, third > 1 ? third / 2 : third);
   }
   if (number == SYS_close) {
+    LoseEnd(Argument(context, 0));
     CarryOut(number, context, third); // the descriptor is lost all the same
   }
   return -rule.action;
