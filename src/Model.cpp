@@ -53,6 +53,14 @@ void ModelAppend(List list, void *item) {
   }
 }
 
+List ModelListCopy(List source) {
+  List copy = ModelList();
+  for (const ListItem *node = ListFirstNode(source); node != nullptr; node = node->next) {
+    ModelAppend(copy, node->data);
+  }
+  return copy;
+}
+
 NamedBinding *ModelBinding(std::int32_t kind, const char *name, void *value) {
   auto *binding = ModelNew<NamedBinding>(kind);
   binding->name = name;

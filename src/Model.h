@@ -52,6 +52,9 @@ char *ModelText(std::string_view text);
 List ModelList();
 void ModelAppend(List list, void *item);
 
+// A new list of the same items.
+List ModelListCopy(List source);
+
 // A new binding of `name` (shared, not copied) to `value`; not entered in any table.
 NamedBinding *ModelBinding(std::int32_t kind, const char *name, void *value);
 

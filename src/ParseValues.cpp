@@ -106,8 +106,7 @@ static void AppendRuns(StringBuild *build, const StringBuild &right) {
 void StringJoin(YYSTYPE *result, const StringBuild &left, const StringBuild &right) {
   StringBuild build = left;
   if (left.capacity == 0 && left.charsets != nullptr) { // may be a bound value's list
-    build.charsets = ModelList();
-    ListCopyItems(build.charsets, left.charsets);
+    build.charsets = ModelListCopy(left.charsets);
   }
   if (right.charsets != nullptr) {
     if (build.charsets == nullptr) {
@@ -336,9 +335,7 @@ void CompoundStringFunction(YYSTYPE *result, const StringValue &text, const Tabl
 }
 
 void CompoundStringBound(YYSTYPE *result, const SymbolValue &name) {
-  List items = ModelList();
-  ListCopyItems(items, BoundValue<CompoundStringVal>(name).value);
-  CompoundResult(result, items);
+  CompoundResult(result, ModelListCopy(BoundValue<CompoundStringVal>(name).value));
 }
 
 // Both lists belong to this expression alone, so the right one's nodes move.

@@ -1,6 +1,7 @@
 // The parser and its actions, looked at in the model that they leave: what no generated unit shows
 // directly.  Reports are compared as whole texts in the cases.
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -211,6 +212,49 @@ TEST_F(Parse, CompoundStringsOfANameAreCopied) {
             "");
   EXPECT_EQ(ListLength(Value<CompoundStringVal>("a").value), 1U);
   EXPECT_EQ(ListLength(Value<CompoundStringVal>("b").value), 3U);
+}
+
+// Calls `take`, which gives the length of a list, with ever more memory; each time it gives less
+// than two the run must have ended.
+static void ExpectEndBeforeTwo(const std::function<std::uint32_t()> &take) {
+  std::uint32_t length = 0;
+  long count = 0;
+  for (; length < 2; ++count) {
+    ASSERT_LT(count, 20);
+    testing::internal::CaptureStderr();
+    AllocFailAfter(count);
+    try {
+      length = take();
+      AllocFailAfter(-1);
+      EXPECT_EQ(testing::internal::GetCapturedStderr() + std::to_string(length), "2") << count;
+    } catch (const ProgramExit &exit) {
+      AllocFailAfter(-1);
+      EXPECT_EQ(testing::internal::GetCapturedStderr(), "kivuxl: Out of memory.\n") << count;
+    }
+  }
+  EXPECT_GT(count, 3); // the list and two nodes at least
+}
+
+TEST_F(Parse, BoundListsAreCopiedWholeOrNotAtAll) {
+  ASSERT_EQ(ParseText("module m value s : #iso_latin2\"x\";"
+                      " c : compound_string('x') & compound_string('y'); end module;"),
+            "");
+  SymbolValue text{};
+  text.value = SymbolFind("s");
+  SymbolValue compound{};
+  compound.value = SymbolFind("c");
+  ExpectEndBeforeTwo([&] {
+    YYSTYPE bound{};
+    StringBound(&bound, text);
+    YYSTYPE joined{};
+    StringJoin(&joined, bound.build, bound.build);
+    return ListLength(joined.build.charsets);
+  });
+  ExpectEndBeforeTwo([&] {
+    YYSTYPE copy{};
+    CompoundStringBound(&copy, compound);
+    return ListLength(copy.cmpstr.value);
+  });
 }
 
 TEST_F(Parse, UserCharacterSetHasItsTextAsName) {
