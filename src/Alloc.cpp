@@ -72,6 +72,7 @@ char *run_end = nullptr;
 bool run_is_first = true;
 std::size_t live_blocks = 0;
 long allocations_left = -1; // before each one fails; -1 = without end
+bool fails_once = false;    // that only one fails then
 std::size_t failures = 0;
 
 } // namespace
@@ -193,6 +194,7 @@ static bool AllocMayProceed() {
     return true;
   }
   if (allocations_left == 0) {
+    allocations_left = fails_once ? -1 : 0;
     return false;
   }
   --allocations_left;
@@ -317,4 +319,12 @@ std::size_t AllocLiveBlocks() { return live_blocks; }
 
 std::size_t AllocFailures() { return failures; }
 
-void AllocFailAfter(long n) { allocations_left = n; }
+void AllocFailAfter(long n) {
+  allocations_left = n;
+  fails_once = false;
+}
+
+void AllocFailOnce(long n) {
+  allocations_left = n;
+  fails_once = true;
+}

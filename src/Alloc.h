@@ -56,8 +56,9 @@ std::size_t AllocLiveBlocks();
 // nothing from one that had no memory for its key.
 std::size_t AllocFailures();
 
-// For tests of exhaustion: after `n` further allocations each one fails; -1 ends that.  AllocReset
-// leaves the setting alone.
+// For tests of exhaustion: after `n` further allocations each one fails, or only the next; -1 ends
+// that.  AllocReset leaves the setting alone.
 void AllocFailAfter(long n);
+void AllocFailOnce(long n);
 
 #endif

@@ -216,6 +216,23 @@ TEST_F(Alloc, FailAfterCountsEveryKindOfAllocation) {
   EXPECT_NE(_MAlloc(1), nullptr);
 }
 
+TEST_F(Alloc, FailOnceSparesWhatComesBehind) {
+  AllocFailOnce(1);
+  EXPECT_NE(_MAlloc(1), nullptr);
+  EXPECT_EQ(_MAlloc(1), nullptr);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_NE(_MAlloc(1), nullptr);
+  }
+  AllocFailOnce(0);
+  AllocFailAfter(-1);
+  EXPECT_NE(_MAlloc(1), nullptr);
+  AllocFailAfter(0);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(_MAlloc(1), nullptr);
+  }
+  AllocFailAfter(-1);
+}
+
 TEST_F(Alloc, FailuresAreCounted) {
   const std::size_t before = AllocFailures();
   void *block = _MAlloc(1);
