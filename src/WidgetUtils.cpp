@@ -289,8 +289,7 @@ static List Flatten(const WidgetDef *widget, List WidgetDef::*source, const Flat
     return nullptr;
   }
   WidgetNotes *notes = WidgetNotesOf(widget);
-  const unsigned known = 1U << rules.place;
-  if ((notes->flat_known & known) != 0) {
+  if (notes->flat_known[rules.place]) {
     return notes->flat[rules.place];
   }
   List flat = nullptr;
@@ -299,7 +298,7 @@ static List Flatten(const WidgetDef *widget, List WidgetDef::*source, const Flat
   }
   if (lists_are_complete) {
     notes->flat[rules.place] = flat;
-    notes->flat_known = static_cast<std::uint8_t>(notes->flat_known | known);
+    notes->flat_known[rules.place] = true;
   }
   return flat;
 }

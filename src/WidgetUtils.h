@@ -72,7 +72,7 @@ struct WidgetNotes {
   std::int64_t hierarchy; // size of the subtree, 0 while not counted
   TreePlace place;
   std::uint32_t emit_table;
-  std::uint8_t flat_known; // a bit for each sort of list: `flat` has it
+  bool flat_known[3]; // whether `flat` has the list
 };
 static_assert(sizeof(WidgetNotes) == 64);
 

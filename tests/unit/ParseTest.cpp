@@ -235,6 +235,24 @@ static void ExpectEndBeforeTwo(const std::function<std::uint32_t()> &take) {
   EXPECT_GT(count, 3); // the list and two nodes at least
 }
 
+// A joined text has room for the zero byte behind it, also when its parts just fill what there is.
+TEST_F(Parse, JoinedTextsKeepRoomForTheirEnd) {
+  for (std::size_t length = 1; length < 40; ++length) {
+    StringBuild part{};
+    part.kind = SIMPLE_STRING;
+    part.value = "x";
+    part.length = 1;
+    YYSTYPE joined{};
+    joined.build = part;
+    for (std::size_t i = 1; i < length; ++i) {
+      const StringBuild left = joined.build;
+      StringJoin(&joined, left, part);
+      ASSERT_EQ(joined.build.value, std::string(i + 1, 'x'));
+      ASSERT_GT(joined.build.capacity, joined.build.length) << length;
+    }
+  }
+}
+
 TEST_F(Parse, BoundListsAreCopiedWholeOrNotAtAll) {
   ASSERT_EQ(ParseText("module m value s : #iso_latin2\"x\";"
                       " c : compound_string('x') & compound_string('y'); end module;"),

@@ -108,6 +108,23 @@ TEST_F(WidgetUtils, TooManyItemsEndTheRun) {
             "kivuxl: Too many arguments in w.\n");
 }
 
+// A callback counts for each of its procedures, and for one when it has none or one.
+TEST_F(WidgetUtils, ProceduresAreCountedAsItems) {
+  for (const auto &callback : {Callback("a", {Invoke("p")}), Callback("a", {})}) {
+    List list = ModelList();
+    for (unsigned i = 0; i < kMaxFlatItems - 2; ++i) {
+      ModelAppend(list, callback);
+    }
+    WidgetDef *widget = Inline("w", "XmForm");
+    Callbacks(widget,
+              {Listed(CALLBACKS_LIST_NAME, list), Callback("b", {Invoke("p"), Invoke("q")})});
+    EXPECT_EQ(ListLength(FlatList(WidgetFlatCallbacksList(widget)).get()), kMaxFlatItems - 1);
+    Callbacks(widget, {Callback("c", {})});
+    EXPECT_EQ(Reported([&] { EXPECT_THROW(WidgetFlatCallbacksList(widget), ProgramExit); }),
+              "kivuxl: Too many callbacks in w.\n");
+  }
+}
+
 // Forty lists, each naming the one before twice: 2^40 items for 80 lines of source.
 TEST_F(WidgetUtils, ListsThatDoubleEndTheRun) {
   List arguments = Items({Argument("XmNx", Integer(1))});
