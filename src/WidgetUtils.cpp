@@ -121,6 +121,8 @@ struct FlatRules {
   const char *overflow;
 };
 
+constexpr std::uint32_t kTooMany = kMaxFlatItems + 1; // stands for all larger numbers
+
 static KindRec *KeepItem(KindRec *item) { return item; }
 
 static std::uint32_t WeighItem(const KindRec * /*item*/) { return 1; }
@@ -129,7 +131,7 @@ static std::uint32_t WeighItem(const KindRec * /*item*/) { return 1; }
 // callbacks.
 static std::uint32_t WeighCallback(const KindRec *item) {
   const auto procedures = ListLength(static_cast<const CallbackValue *>(item)->value);
-  return static_cast<std::uint32_t>(std::clamp<std::size_t>(procedures, 1, kMaxFlatItems + 1));
+  return static_cast<std::uint32_t>(std::clamp<std::size_t>(procedures, 1, kTooMany));
 }
 
 static KindRec *KeepControl(KindRec *item) {
@@ -161,7 +163,6 @@ static constexpr FlatRules kControlRules = {2,           CONTROLS_LIST, CONTROLS
 constexpr std::uint32_t kCounted = 1;
 constexpr std::uint32_t kHasLists = 2;
 constexpr std::uint32_t kCountUnit = 4;
-constexpr std::uint32_t kTooMany = kMaxFlatItems + 1; // stands for all larger numbers
 
 static bool IsList(const KindRec *item, const FlatRules &rules) {
   return item->kind == rules.list_kind || item->kind == rules.list_name_kind;
