@@ -65,6 +65,20 @@ TEST_F(Alloc, BlocksOfUpToAKilobyteStandSideBySide) {
   }
 }
 
+// A page of 32 KiB less its header and what malloc wants, down to the last byte.
+TEST_F(Alloc, PageIsUsedToItsEnd) {
+  constexpr std::size_t kRoom = 32768 - 64 - 16;
+  for (const std::size_t size : {8U, 16U, 48U}) {
+    AllocReset();
+    const std::size_t step = size + kApart;
+    const auto first = reinterpret_cast<std::uintptr_t>(_MAlloc(size));
+    for (std::size_t i = 1; i < kRoom / step; ++i) {
+      ASSERT_EQ(reinterpret_cast<std::uintptr_t>(_MAlloc(size)) - first, i * step) << size;
+    }
+    EXPECT_NE(reinterpret_cast<std::uintptr_t>(_MAlloc(size)) - first, kRoom / step * step) << size;
+  }
+}
+
 TEST_F(Alloc, FreeTakesBlocksInAnyOrder) {
   void *first = _MAlloc(10);
   void *second = _MAlloc(20);

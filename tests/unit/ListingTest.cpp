@@ -336,6 +336,12 @@ TEST_F(Listing, EmptyLinePrintsNoRow) {
   EXPECT_EQ(row_counter, 0);
 }
 
+TEST_F(Listing, EmptyLineBeginsNoPageHoweverNarrow) {
+  listing_width = 9; // one column behind the number
+  EXPECT_EQ(LineOf(7, ""), "");
+  EXPECT_EQ(page_counter, 0);
+}
+
 TEST_F(Listing, LongLineGoesOnWithoutANumber) {
   EXPECT_EQ(LineOf(1, std::string(67, 'a')), "000001: " + std::string(67, 'a') + "\n");
   EXPECT_EQ(LineOf(2, std::string(68, 'b')),

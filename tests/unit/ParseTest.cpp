@@ -132,6 +132,7 @@ TEST_F(Parse, CaseInsensitiveNamesAreOneEntry) {
   EXPECT_FALSE(case_sensitive);
   EXPECT_FALSE(module_definition->case_sensitive);
   EXPECT_EQ(SymbolFind("WIDE"), SymbolFind("Wide"));
+  EXPECT_EQ(symbol_table->modulus, 511U); // as before
 }
 
 TEST_F(Parse, OverrideCaseKeepsTheCase) {
