@@ -87,7 +87,10 @@ UNSEEN = [
      "the bound only keeps sums of lengths within an int"),
     ("Listing.cpp", "constant", r"result.reserve\(.*EncodedLength\(text, length\)\) \+ 4\);",
      "it is room, not length"),
+    ("Scanner.cpp", "comparison", r"if \(need >= INT_MAX\) \{", "takes a text of 2 GB"),
     # Both ways lead to the same.
+    ("Listing.cpp", "comparison", r"if \(row.size\(\) <= column \+ part.size\(\)\) \{",
+     "a row as long as that stays so"),
     ("List.cpp", "comparison", r"\*prev = found != list->traverse \? .*",
      "nobody asks for the node before"),
     ("Options.cpp", "constant", r"(ErrorMessage\(.*cannot contain -cfg|std::for_each\(.*Generics).*"
