@@ -87,6 +87,10 @@ UNSEEN = [
      "the bound only keeps sums of lengths within an int"),
     ("Listing.cpp", "constant", r"result.reserve\(.*EncodedLength\(text, length\)\) \+ 4\);",
      "it is room, not length"),
+    ("Alloc.cpp", "constant", r"size = std::max<std::size_t>\(size, 2\);",
+     "both are rounded up to 8"),
+    ("Listing.cpp", "constant", r"constexpr std::int64_t kLongest = INT_MAX - 65;.*",
+     "takes a line of 2 GB"),
     ("Scanner.cpp", "comparison", r"if \(need >= INT_MAX\) \{", "takes a text of 2 GB"),
     # Both ways lead to the same.
     ("Listing.cpp", "comparison", r"if \(row.size\(\) <= column \+ part.size\(\)\) \{",
