@@ -2,6 +2,7 @@
 
 #include "SourceFiles.h"
 
+#include <climits>
 #include <clocale>
 #include <ctime>
 
@@ -334,6 +335,14 @@ TEST_F(Listing, RowsKeepTheirTrailingBlanks) {
 TEST_F(Listing, EmptyLinePrintsNoRow) {
   EXPECT_EQ(LineOf(7, ""), "");
   EXPECT_EQ(row_counter, 0);
+}
+
+TEST_F(Listing, LinesBehindTheLargestNumberKeepIt) {
+  yylineno = INT_MAX - 1;
+  for (int i = 0; i < 2; ++i) {
+    PutListing("a\n", 2);
+    EXPECT_EQ(yylineno, INT_MAX);
+  }
 }
 
 TEST_F(Listing, EmptyLineBeginsNoPageHoweverNarrow) {
