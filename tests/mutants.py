@@ -77,6 +77,8 @@ UNSEEN = [
      "a prefix has no more than eight characters"),
     ("Files.cpp", "constant", r"constexpr (int|std::size_t) k(ScannerBufferSize|CopyBlock) = \d+;",
      "a file is read on until it ends"),
+    ("Alloc.cpp", "constant", r"const std::size_t size = std::strlen\(str\) \+ 2;",
+     "it is room, not length"),
     ("AdaWideCharacter.cpp", "constant",
      r"std::vector<wchar_t> wide\(std::strlen\(text\) \+ 2\);", "it is room, not length"),
     ("Listing.cpp", "constant", r"auto \*text = static_cast<char \*>\(_SmartMalloc\(2, &size\)\);",
