@@ -45,7 +45,8 @@ void Emit(std::FILE *file, AdaTemplate<text> ada, const Values &...values);
 template <AdaText text, typename... Values>
 std::string EmitToString(AdaTemplate<text> ada, const Values &...values);
 
-// The same for the few templates with other conversions, which are printf's.  Slow.
+// The same for the few templates with other conversions, which are printf's, and for messages.
+// Slow.
 void Emit(std::FILE *file, const char *format, ...) __attribute__((format(printf, 2, 3)));
 std::string EmitByLibrary(const char *format, std::va_list arguments)
     __attribute__((format(printf, 1, 0)));

@@ -10,6 +10,7 @@
 #include <new>
 
 #include "Alloc.h"
+#include "Emit.h"
 #include "Listing.h"
 #include "Options.h"
 
@@ -23,20 +24,6 @@ static constexpr std::array<const char *, kImmediate> kPrefixes = {
     "   error: ",          // kError
 };
 
-// The text formatted, of any length.  The arguments may point into `error_message`.
-static std::string FormatText(const char *format, std::va_list arguments) {
-  std::va_list again;
-  va_copy(again, arguments);
-  const int length = std::vsnprintf(nullptr, 0, format, arguments);
-  std::string text;
-  if (length > 0) {
-    text.resize(static_cast<std::size_t>(length));
-    std::vsnprintf(text.data(), text.size() + 1, format, again);
-  }
-  va_end(again);
-  return text;
-}
-
 void ErrorMessage(ErrorType type, const char *msg) {
   if (type == kImmediate) {
     std::fflush(stdout);
@@ -49,7 +36,7 @@ void ErrorMessage(ErrorType type, const char *msg) {
 void ErrorFormat(ErrorType type, const char *format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  error_message = FormatText(format, arguments);
+  error_message = EmitByLibrary(format, arguments); // arguments may point into it
   va_end(arguments);
   ErrorMessage(type, error_message.c_str());
 }
@@ -62,7 +49,7 @@ void FatalErrorMessage(const char *msg, int status) {
 void FatalErrorFormat(const char *format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  error_message = FormatText(format, arguments);
+  error_message = EmitByLibrary(format, arguments);
   va_end(arguments);
   FatalErrorMessage(error_message.c_str(), 1);
 }
