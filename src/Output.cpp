@@ -341,7 +341,7 @@ static void EndBySignal(int number) {
 // Ending the run throws, and without any memory even that fails.
 [[noreturn]] static void EndWithoutMemory() {
   constexpr std::string_view kText = "kivuxl: Out of memory.\n";
-  static_cast<void>(write(STDERR_FILENO, kText.data(), kText.size()) < 0);
+  [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, kText.data(), kText.size());
   RemoveTemporaries();
   _exit(1);
 }

@@ -115,8 +115,9 @@ void StringJoin(YYSTYPE *result, const StringBuild &left, const StringBuild &rig
     AppendRuns(&build, right);
   }
   char *buffer = StringReserve(&build, build.length + right.length);
-  std::memcpy(buffer + build.length, right.value, right.length + 1);
+  std::memcpy(buffer + build.length, right.value, right.length);
   build.length += right.length;
+  buffer[build.length] = '\0';
   result->build = build;
 }
 
@@ -341,7 +342,7 @@ void CompoundStringBound(YYSTYPE *result, const SymbolValue &name) {
 // Both lists belong to this expression alone, so the right one's nodes move.
 void CompoundStringJoin(YYSTYPE *result, const YYSTYPE &left, const YYSTYPE &right) {
   if (left.kind == NIL || right.kind == NIL) {
-    *result = left.kind == NIL ? right : left;
+    ParseFailed(result);
     return;
   }
   *result = left;

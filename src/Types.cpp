@@ -17,9 +17,11 @@ static std::int32_t anon_count = 0; // objects named by AnonymousWidget so far
 
 // -- Names and compatibility -------------------------------------------------------------------
 
+static bool IsToken(std::int32_t kind) { return kind >= 0 && kind < MAX_TOKENS; }
+
 // False after an internal message.
 static bool TokenInRange(std::int32_t kind) {
-  if (kind >= 0 && kind < MAX_TOKENS) {
+  if (IsToken(kind)) {
     return true;
   }
   ErrorMessage(kImmediate, "Internal error: token out of range");
@@ -28,7 +30,7 @@ static bool TokenInRange(std::int32_t kind) {
 
 // The description of a type, or null where the kind is no type.
 static const FunctionName *TypeRow(std::int32_t kind) {
-  return kind >= 0 && kind < MAX_TOKENS ? token_types[kind] : nullptr;
+  return IsToken(kind) ? token_types[kind] : nullptr;
 }
 
 const char *NameOfType(std::int32_t kind) {

@@ -162,6 +162,15 @@ TEST_F(Listing, OnlyAClosingNewlineCompletesALine) {
   EXPECT_EQ(std::string(line->text, 6), std::string("a\nb\0c\0", 6));
 }
 
+TEST_F(Listing, LineHasRoomForItsZeroByte) {
+  PutListing("a", 1);
+  const auto *line = static_cast<const ListingLine *>(ListGetLast(listing));
+  for (int i = 0; i < 200; ++i) {
+    PutListing("b", 1);
+    ASSERT_LT(line->length, line->maxlen);
+  }
+}
+
 TEST_F(Listing, LongLineIsCapturedWhole) {
   const std::string word(1000, 'w');
   constexpr int kWords = 8000;
@@ -322,6 +331,7 @@ TEST_F(Listing, FooterLeavesOutWhatIsWiderThanTheRow) {
   listing_width = 10;
   EXPECT_EQ(FooterOf("main.uil", version_string), "\n main.uil \n\n");
   EXPECT_EQ(FooterOf("longer/than/that", "1.0"), "\n\nthat   1.0\n");
+  EXPECT_EQ(FooterOf("longer/than/that", "1.0.2.3456"), "\n   that   \n1.0.2.3456\n");
 }
 
 // -- Rows --------------------------------------------------------------------------------------

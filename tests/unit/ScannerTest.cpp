@@ -266,7 +266,8 @@ TEST_F(Scanner, DigitsWithoutClosingBackslashAreOrdinary) {
 }
 
 TEST_F(Scanner, StringsHoldAnyCharacterButANewline) {
-  EXPECT_EQ(TokensOf("'\t\xe9\x01!/*'"), "single \"\\t\\351\\1!/*\"");
+  EXPECT_EQ(TokensOf("'\t\xe9\x01!/*' \"\t\xe9\x01!/*\""),
+            "single \"\\t\\351\\1!/*\" | double \"\\t\\351\\1!/*\"");
   EXPECT_EQ(Report(), "");
 }
 
