@@ -29,10 +29,7 @@ static bool SameName(const char *left, const char *right) {
 }
 
 static bool EndsWithName(std::string_view text, std::string_view suffix) {
-  if (!case_sensitive) {
-    return AsciiEndsWithNoCase(text, suffix);
-  }
-  return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
+  return case_sensitive ? text.ends_with(suffix) : AsciiEndsWithNoCase(text, suffix);
 }
 
 // -- References --------------------------------------------------------------------------------

@@ -3,6 +3,7 @@
 
 #include "Driver.h"
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -105,6 +106,23 @@ TEST_F(Driver, ClosedStandardOutputIsNoOtherFile) {
   EXPECT_EQ(errors, "kivuxl: Error writing file \"-\".\n");
   EXPECT_EQ(Contents("list").find("package"), std::string::npos);
   EXPECT_EQ(Contents("m.uil"), "module m end module;\n");
+}
+
+TEST_F(Driver, FullStandardOutputIsAFailure) {
+  Put("m.uil", "module m end module;\n");
+  int status = -1;
+  const std::string errors = ErrorsOf([&] {
+    const pid_t child = fork();
+    if (child == 0) {
+      const int full = open("/dev/full", O_WRONLY);
+      _exit(full >= 0 && dup2(full, STDOUT_FILENO) >= 0
+                ? Arguments({"kivuxl", "-verbose", "m.uil"}).Run()
+                : 0);
+    }
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+  });
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+  EXPECT_EQ(errors, "kivuxl: Error writing file \"-\".\n");
 }
 
 TEST_F(Driver, StandardDirectoriesComeLast) {

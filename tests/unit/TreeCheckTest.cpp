@@ -24,13 +24,14 @@ protected:
 
   static WidgetRef *Ref(const char *name) { return Reference(name, NIL); }
 
-  // `levels` widgets below `top`, each the only child of the one above.
-  static void Nest(WidgetDef *top, int levels) {
+  // `levels` widgets below `top`, each the only child of the one above; the lowest.
+  static WidgetDef *Nest(WidgetDef *top, int levels) {
     for (int i = 0; i < levels; ++i) {
       WidgetDef *child = Inline("inner", "XmForm");
       Controls(top, {child});
       top = child;
     }
+    return top;
   }
 
   // A list that holds `width` times what is given.
@@ -124,6 +125,12 @@ TEST_F(TreeCheckTest, DepthOverTheLimit) {
   EXPECT_EQ(Checked(), "kivuxl: Controls nested too deeply below top.\n[exit 1]");
 }
 
+TEST_F(TreeCheckTest, UndefinedObjectsAreOneLevel) {
+  WidgetDef *top = TopLevel(Define("top", "XmForm"));
+  Controls(Nest(top, kMaxControlDepth - 1), {Ref("later")});
+  EXPECT_EQ(Checked(), "kivuxl: Reference to undefined object later.\n");
+}
+
 TEST_F(TreeCheckTest, ListsInListsAreNoDepth) {
   WidgetDef *top = TopLevel(Define("top", "XmForm"));
   List list = Items({Inline("leaf", "XmLabel")});
@@ -154,6 +161,14 @@ TEST_F(TreeCheckTest, PathsOverTheLimit) {
   Controls(top, {Inline("one_more", "XmLabel"),
                  Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000))});
   EXPECT_EQ(Checked(), "kivuxl: Too many controls below top.\n[exit 1]");
+}
+
+// What is not defined counts one each time.
+TEST_F(TreeCheckTest, UndefinedObjectsCountAsPaths) {
+  WidgetDef *top = TopLevel(Define("top", "XmForm"));
+  List thousand = Repeated(Ref("later"), 1000);
+  Controls(top, {Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000))});
+  EXPECT_EQ(Checked(), "kivuxl: Reference to undefined object later.\n");
 }
 
 // 2 ** 100 paths, and two widgets a level.
