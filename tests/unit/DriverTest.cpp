@@ -5,12 +5,14 @@
 
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <new>
 #include <set>
@@ -257,6 +259,14 @@ TEST_F(Driver, TimeMayBeGiven) {
     EXPECT_GT(run_date_time, 86400) << text;
   }
   unsetenv("SOURCE_DATE_EPOCH");
+}
+
+TEST_F(Driver, ListingIsAnOrdinaryFile) {
+  Put("m.uil", "module m end module;\n");
+  const mode_t mask = umask(027);
+  EXPECT_EQ(Run({"kivuxl", "-v", "list", "m.uil"}), 0);
+  umask(mask);
+  EXPECT_EQ(std::filesystem::status("list").permissions(), std::filesystem::perms(0640));
 }
 
 // Longer than what a stream keeps back, so that nothing may be emptied after the first line.

@@ -672,6 +672,7 @@ TEST_F(Hash, AHundredThousandNames) {
     for (SimpleObjectRec *entry : entries) {
       ASSERT_TRUE(HashAdd(table, entry));
     }
+    EXPECT_EQ(table->index.count, 100000U);
     for (SimpleObjectRec *entry : entries) {
       ASSERT_EQ(HashFind(table, entry->name), entry);
       ASSERT_FALSE(HashAdd(table, entry));
