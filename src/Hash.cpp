@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstring>
 #include <new>
+#include <string_view>
 
 #include "Alloc.h"
 #include "Ascii.h"
@@ -57,8 +58,8 @@ static std::uint32_t HashExact(const char *text) {
     hash ^= hash >> 32;
   };
   if (length < sizeof(word)) {
-    for (std::size_t i = 0; i < length; ++i) {
-      word = word << 8 | static_cast<unsigned char>(text[i]);
+    for (const char c : std::string_view(text, length)) {
+      word = word << 8 | static_cast<unsigned char>(c);
     }
     take();
     return HashFinish(hash);
