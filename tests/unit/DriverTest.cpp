@@ -71,6 +71,34 @@ protected:
     return status;
   }
 
+  // Runs the program in a process of its own, after `arrange` has changed that; its exit status,
+  // or -1 when it ended in another way.
+  static int RunInChild(void (*arrange)(), const std::vector<std::string> &words,
+                        std::string *errors) {
+    int status = -1;
+    *errors = ErrorsOf([&] {
+      const pid_t child = fork();
+      if (child == 0) {
+        arrange();
+        _exit(Arguments(words).Run());
+      }
+      EXPECT_EQ(waitpid(child, &status, 0), child);
+    });
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+  static void CloseStandardStreams() {
+    close(STDIN_FILENO);
+    close(STDOUT_FILENO);
+  }
+
+  static void FillStandardOutput() {
+    const int full = open("/dev/full", O_WRONLY);
+    if (full < 0 || dup2(full, STDOUT_FILENO) < 0) {
+      _exit(0);
+    }
+  }
+
   // Settles the options for an input file that is not there.
   static void Settle(std::vector<std::string> words, const char *filename = "ui/hello.uil") {
     std::string errors;
@@ -94,17 +122,9 @@ TEST_F(Driver, ProgramNameIsTheLastPartOfThePath) {
 // Else the listing would be opened as standard output, and the units would land in it.
 TEST_F(Driver, ClosedStandardOutputIsNoOtherFile) {
   Put("m.uil", "module m end module;\n");
-  int status = -1;
-  const std::string errors = ErrorsOf([&] {
-    const pid_t child = fork();
-    if (child == 0) {
-      close(STDIN_FILENO);
-      close(STDOUT_FILENO);
-      _exit(Arguments({"kivuxl", "-v", "list", "-o", "-", "m.uil"}).Run());
-    }
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-  });
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+  std::string errors;
+  EXPECT_EQ(RunInChild(CloseStandardStreams, {"kivuxl", "-v", "list", "-o", "-", "m.uil"}, &errors),
+            1);
   EXPECT_EQ(errors, "kivuxl: Error writing file \"-\".\n");
   EXPECT_EQ(Contents("list").find("package"), std::string::npos);
   EXPECT_EQ(Contents("m.uil"), "module m end module;\n");
@@ -112,18 +132,8 @@ TEST_F(Driver, ClosedStandardOutputIsNoOtherFile) {
 
 TEST_F(Driver, FullStandardOutputIsAFailure) {
   Put("m.uil", "module m end module;\n");
-  int status = -1;
-  const std::string errors = ErrorsOf([&] {
-    const pid_t child = fork();
-    if (child == 0) {
-      const int full = open("/dev/full", O_WRONLY);
-      _exit(full >= 0 && dup2(full, STDOUT_FILENO) >= 0
-                ? Arguments({"kivuxl", "-verbose", "m.uil"}).Run()
-                : 0);
-    }
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-  });
-  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+  std::string errors;
+  EXPECT_EQ(RunInChild(FillStandardOutput, {"kivuxl", "-verbose", "m.uil"}, &errors), 1);
   EXPECT_EQ(errors, "kivuxl: Error writing file \"-\".\n");
 }
 

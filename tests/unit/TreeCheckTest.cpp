@@ -42,6 +42,12 @@ protected:
     }
     return list;
   }
+
+  // 1,000 lists of 1,000 times what is given: as many controls as may be.
+  static KindRec *Million(KindRec *item) {
+    List thousand = Repeated(item, 1000);
+    return Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000));
+  }
 };
 
 TEST_F(TreeCheckTest, NothingAtAllIsSound) { EXPECT_EQ(Checked(), ""); }
@@ -147,27 +153,22 @@ TEST_F(TreeCheckTest, VeryDeepTreesNeedNoStack) {
   EXPECT_EQ(Checked(), "kivuxl: Controls nested too deeply below top.\n[exit 1]");
 }
 
-// 1,000 lists of 1,000 labels each are as many controls as may be.
 TEST_F(TreeCheckTest, PathsHaveALimit) {
   WidgetDef *top = TopLevel(Define("top", "XmForm"));
-  List thousand = Repeated(Inline("leaf", "XmLabel"), 1000);
-  Controls(top, {Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000))});
+  Controls(top, {Million(Inline("leaf", "XmLabel"))});
   EXPECT_EQ(Checked(), "");
 }
 
 TEST_F(TreeCheckTest, PathsOverTheLimit) {
   WidgetDef *top = TopLevel(Define("top", "XmForm"));
-  List thousand = Repeated(Inline("leaf", "XmLabel"), 1000);
-  Controls(top, {Inline("one_more", "XmLabel"),
-                 Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000))});
+  Controls(top, {Inline("one_more", "XmLabel"), Million(Inline("leaf", "XmLabel"))});
   EXPECT_EQ(Checked(), "kivuxl: Too many controls below top.\n[exit 1]");
 }
 
 // What is not defined counts one each time.
 TEST_F(TreeCheckTest, UndefinedObjectsCountAsPaths) {
   WidgetDef *top = TopLevel(Define("top", "XmForm"));
-  List thousand = Repeated(Ref("later"), 1000);
-  Controls(top, {Listed(CONTROLS_LIST_NAME, Repeated(Listed(CONTROLS_LIST_NAME, thousand), 1000))});
+  Controls(top, {Million(Ref("later"))});
   EXPECT_EQ(Checked(), "kivuxl: Reference to undefined object later.\n");
 }
 
