@@ -25,6 +25,7 @@ and its exit status is 0 when no test fails.
 import argparse
 import collections
 import concurrent.futures
+import itertools
 import json
 import os
 import pathlib
@@ -49,211 +50,281 @@ KEYED_TABLES = {"paired_args", "odd_trans", "kPopupClasses", "kFamilies", "kShel
                 "kCopies", "kConversions", "kShellBySuffix", "kShellNameSuffix",
                 "get_child_fn_name", "get_child_arg_name"}
 
-# Changes of which nothing can be seen: (expression for the source, kind, expression for the lines
-# after the change, without the blanks around them, why).  The latter expression may begin with the
-# line before those.  Each entry names a change that is made, or the run ends at once.
-UNSEEN = [
-    # How texts are spread over an index, and when it grows, is a matter of speed.
-    ("Hash.cpp", "constant", r"hash \^= hash >> 3[34];", "all texts are spread alike"),
-    ("Hash.cpp", "constant", r"return static_cast<std::uint32_t>\(hash >> 33\);",
-     "all texts are spread alike"),
-    ("Hash.cpp", "constant", r"std::uint64_t word = 1;", "all texts are spread alike"),
-    ("Hash.cpp", "comparison", r"for \(std::size_t i = 0; i <= length - sizeof\(word\); .*",
-     "all texts are spread alike"),
-    ("Hash.cpp", "comparison", r"if \(length <= sizeof\(word\)\) \{", "all texts are spread alike"),
-    ("Hash.cpp", "constant", r"return table.index.compare == nullptr \? 1 : .*",
-     "without an index nobody asks for the tag"),
-    ("(Hash|List).cpp", "constant", r"if \(index.(count|used) < index.size / 3\) \{",
-     "the index only grows sooner"),
-    ("List.cpp", "constant", r"constexpr std::uint32_t kIndexedLength = 17;.*",
-     "walking and the index find the same"),
-    ("List.cpp", "comparison", r"if \(list->nitems < kIndexedLength \|\| .*",
-     "walking and the index find the same"),
-    # Sizes of buffers.
-    ("Emit.cpp", "constant", r"std::vsnprintf\(text.data\(\), text.size\(\) \+ 2, .*",
-     "the text has the length that was counted before"),
-    ("Emit.cpp", "constant", r"constexpr std::size_t kUnitText(Size|s) = (\d+ << )?\d+;.*",
-     "what has no room is written at once"),
-    ("Emit.cpp", "constant", r"if \(.* && std::setvbuf\(file, nullptr, _IONBF, 1\) == 0\) \{",
-     "a stream without a buffer has none of any size"),
-    ("Emit.cpp", "comparison", r"if \(buffer != nullptr && room >= .*",
-     "what just fits may as well stand behind a flush"),
-    ("Emit.cpp", "comparison", r"return buffer == nullptr \|\| room >= kUnitTextSize \? .*",
-     "what just fits may as well pass, behind a flush"),
-    ("Listing.cpp", "text", r'prefix = std::string_view\(" {9}"\)\.substr\(.*',
-     "a prefix has no more than eight characters"),
-    ("Files.cpp", "constant", r"constexpr (int|std::size_t) k(ScannerBufferSize|CopyBlock) = \d+;",
-     "a file is read on until it ends"),
-    ("Alloc.cpp", "constant", r"const std::size_t size = std::strlen\(str\) \+ 2;",
-     "it is room, not length"),
-    ("AdaWideCharacter.cpp", "constant",
-     r"std::vector<wchar_t> wide\(std::strlen\(text\) \+ 2\);", "it is room, not length"),
-    ("Listing.cpp", "constant", r"auto \*text = static_cast<char \*>\(_SmartMalloc\(2, &size\)\);",
-     "the size is rounded up to 12 in any case"),
-    ("Listing.cpp", "constant", r"std::size_t size = 1;",
-     "the allocation sets it, and without memory the run ends"),
-    ("Listing.cpp", "constant", r".*std::max\(need, std::int64_t\{line->maxlen\} \* 3\).*",
-     "a line only grows sooner"),
-    ("Listing.cpp", "constant", r"return .*\(std::min<std::size_t>\(text.size\(\), INT_MAX / 5\)\);",
-     "the bound only keeps sums of lengths within an int"),
-    ("Listing.cpp", "constant", r"result.reserve\(.*EncodedLength\(text, length\)\) \+ 4\);",
-     "it is room, not length"),
-    ("Alloc.cpp", "constant", r"size = std::max<std::size_t>\(size, 2\);",
-     "both are rounded up to 8"),
-    ("Alloc.cpp", "constant", r".*: new \(run_next\) PageHeader\{nullptr, nullptr, 1\};",
-     "the size is set behind it"),
-    ("Alloc.cpp", "constant", r"PageHeader \*first = PageCreate\(.*, 1\);",
-     "the size is set when the page is taken"),
-    ("Alloc.cpp", "constant", r"constexpr std::size_t kRunPages = kSanitized \? (1 : 17|2 : 16);.*",
-     "so many pages are only asked for together"),
-    ("Files.cpp", "constant", r"std::size_t count = 1;", "it is set before it is asked"),
-    ("Listing.cpp", "constant", r"std::array<char, 5> octal\{\};", "it is room, not length"),
-    ("Listing.cpp", "comparison", r"if \(need >= kLongest\) \{", "takes a line of 2 GB"),
-    ("Scanner.cpp", "constant", r"lit_buffer = .*\(_SmartMalloc\(2, &lit_bufsiz\)\);",
-     "the size is rounded up to 12 in any case"),
-    ("AdaWidgetProcs.cpp", "constant", r"static std::uint32_t widget_table_number = 1;.*",
-     "the numbers only differ from each other"),
-    ("WidgetUtils.cpp", "constant", r"if \(source == nullptr\) \{\n\s*return 1;",
-     "no list in a list is missing"),
-    ("Alloc.cpp", "constant", r"ALLOC_HIDE\(page \+ 2, room\);",
-     "only a sanitizer looks at what is hidden"),
-    ("AdaString.cpp", "constant", r"constexpr std::size_t kTypicalExtra = 65;",
-     "it is room, not length"),
-    ("Alloc.cpp", "constant", r"std::array<SizeClass, kLargestSmall / kUnit \+ 2> classes;",
-     "it is room, not length"),
-    ("Listing.cpp", "constant", r"std::array<char, 25> prefix\{\};", "it is room, not length"),
-    ("Listing.cpp", "constant", r"constexpr std::size_t kDateSize = 257;.*",
-     "it is room, not length"),
-    ("Listing.cpp", "constant", r"const std::int64_t need = .*length \+ 2;",
-     "it is room, not length"),
-    ("Model.cpp", "constant", r"char \*copy = .*ModelAllocate\(text.size\(\) \+ 2\)\);",
-     "it is room, not length"),
-    ("Alloc.cpp", "comparison", r"if \(size >= SIZE_MAX - 19\) \{", "no system has as much"),
-    ("Alloc.cpp", "constant", r"if \(size > SIZE_MAX - 20\) \{", "no system has as much"),
-    ("Alloc.cpp", "comparison", r"if \(room >= SIZE_MAX - sizeof\(PageHeader\) - kPageSize\) \{",
-     "no system has as much"),
-    ("Alloc.cpp", "constant", r"PageHeader ring = \{&ring, &ring, 1\};",
-     "the ring itself has no blocks"),
-    ("Initialize.cpp", "constant", r".*\(ModelAllocate\(\(count \+ 2\) \* sizeof.*",
-     "it is room, not length"),
-    ("ParseModule.cpp", "constant", r"constexpr std::size_t kLongestNumber = 401;.*",
-     "it is room, not length"),
-    ("List.cpp", "constant", r"slot = \{node, tag, 2\};",
-     "the next node of the key is then looked for in vain"),
-    ("WidgetUtils.cpp", "constant", r"return \{list, list->first, 0, 1\};",
-     "that bit is set in every note"),
-    ("Alloc.cpp", "constant", r"constexpr std::size_t kRedZone = kSanitized \? 17 : 0;.*",
-     "only a sanitizer looks at what is hidden"),
-    ("Alloc.cpp", "constant", r"(long )?allocations_left = (fails_once \? )?-2.*",
-     "every negative number is without end"),
-    ("Listing.cpp", "constant", r"constexpr std::int64_t kLongest = INT_MAX - 65;.*",
-     "takes a line of 2 GB"),
-    ("ParseValues.cpp", "constant",
-     r"const std::size_t capacity = (3 \* length \+ 1|2 \* length \+ 2);", "it is room, not length"),
-    ("Listing.cpp", "constant", r'prefix = std::string_view\(" {10}"\)\.substr\(1, .*',
-     "a prefix has no more than eight characters"),
-    ("TreeCheck.cpp", "constant",
-     r"(sum->|static_cast).*std::min\(.*kMax(Hierarchy|ControlDepth) \+ 2\).*",
-     "any number above what is allowed will do"),
-    ("Scanner.cpp", "comparison", r"if \(need >= INT_MAX\) \{", "takes a text of 2 GB"),
-    # Both ways lead to the same.
-    ("Options.cpp", "constant", r"constexpr int kVerbose = 3;", "every number above 1 says as much"),
-    ("Types.cpp", "comparison", r"return from > text.size\(\) \? std::string_view\(\)",
-     "the part from the end on is empty, too"),
-    ("WidgetUtils.cpp", "constant", r".*\n\s*return ListLength\(source\) == 1;",
-     "a copy of a list without items has none either"),
-    ("Emit.cpp", "constant", r"static EmitBuffer \*recent = &unit_texts\[1\].buffer;",
-     "the first to be asked for is found in either case"),
-    ("Hash.cpp", "constant", r"const std::size_t size = std::strlen\(key\) \+ 2;",
-     "only a sanitizer sees the one byte more that is read"),
-    ("ConfigFile.cpp", "constant", r"for \(std::size_t i = 2; i < line.size\(\); \+\+i\) \{",
-     "no line begins with a blank"),
-    ("ConfigFile.cpp", "comparison", r"for \(std::size_t i = 1; i <= line.size\(\); \+\+i\) \{",
-     "the zero byte behind the line is no option"),
-    ("WidgetUtils.cpp", "constant", r"auto \*info = ModelNew<Kivu_ShellInfo>\(1\);",
-     "nobody asks for the kind of a shell"),
-    ("WidgetUtils.cpp", "constant", r"items = list == nullptr \? 1 : list->note / kCountUnit;",
-     "no list in a list is missing"),
-    ("WidgetUtils.cpp", "comparison", r"for \(; \*name == '\\0'; \+\+name\) \{",
-     "a name that is legal as it stands is left so with or without a copy"),
-    ("Files.cpp", "comparison", r"if \(count <= size && std::ferror\(file->fp\) != 0\) \{",
-     "what was read whole was read without an error"),
-    ("WidgetUtils.cpp", "comparison", r"total = below >= kLargestCount - total \? .*",
-     "when both sides are equal the sum is the largest number"),
-    ("WidgetUtils.cpp", "comparison", r"return items == 0 \|\| \(items < kMaxFlatItems && .*",
-     "a copy of the list has the same items"),
-    ("WidgetUtils.cpp", "comparison", r"for \(std::size_t i = 0; i <= name->size\(\); \+\+i\) \{",
-     "the zero byte behind the name is not kept"),
-    ("Listing.cpp", "comparison", r"if \(row.size\(\) <= column \+ part.size\(\)\) \{",
-     "a row as long as that stays so"),
-    ("List.cpp", "comparison", r"\*prev = found != list->traverse \? .*",
-     "nobody asks for the node before"),
-    ("Options.cpp", "constant", r"(ErrorMessage\(.*cannot contain -cfg|std::for_each\(.*Generics).*"
-     r"\n\s*return 1;", "what a line of a file uses up is not counted"),
-    ("Options.cpp", "constant", r"if \(words.rest.empty\(\)\) \{\n\s*return 1;",
-     "behind the last word nothing is left to be lost"),
-    ("AdaWidgets.cpp", "constant",
-     r".*SafeStrcmp\(record->rec, current_top_level->name, case_sensitive \? 1 : 1\).*",
-     "two top-level objects have names that differ in more than case"),
-    ("Alloc.cpp", "constant", r"const std::uintptr_t offset = .* & \(kPageSize - 2\);",
-     "no block begins at an odd address"),
-    ("lex.l", "constant", r"\[\+-\]\?.*LessExponent\(\).*", "the scanner then goes back by itself"),
-    ("(AdaWidgetProcs|AdaWidgets|Hash|List|WidgetUtils).cpp", "constant",
-     r".*SafeStrcmp\(.*(, 2|\? 2 : 0)\).*", "every number but 0 says that case counts"),
-    ("Convert.cpp", "constant", r"static int error_count = 1;.*", "a run begins with a reset"),
-    ("AdaWidgetProcs.cpp", "comparison", r"return size >= largest - offset \? largest : offset .*",
-     "when both sides are equal the sum is the largest number"),
-    ("Listing.cpp", "constant", r"return std::string\(.*\(std::max\(width, 1\)\), ' '\);",
-     "a row without a column is made longer by its number"),
-    ("Listing.cpp", "comparison", r"if \(start <= 0\) \{", "nothing is dropped left of column 0"),
-    ("Listing.cpp", "constant", r"if \(start < 1\) \{", "nothing is dropped left of column 0"),
-    ("Listing.cpp", "constant", r"if \(line == nullptr \|\| length <= 1 .*",
-     "a single character may take the way of a line's end"),
-    ("lex.l", "constant", r'extern "C" int yywrap\(\) \{ .* \? 2 : 0; \}',
-     "the scanner only asks whether it is 0"),
-    ("ParseValues.cpp", "comparison", r"return font.kind != FONT \? FontCopy\(.*",
-     "a font and a font set are copied alike"),
-    ("WidgetUtils.cpp", "constant", r"std::uint32_t items = 1;", "it is set in either case"),
-    ("WidgetUtils.cpp", "constant", r"constexpr std::uint32_t kTooMany = kMaxFlatItems \+ 2;.*",
-     "any number above what is allowed will do"),
-    ("AdaValues.cpp", "constant", r"constexpr bool EachKindHasItsRow.*\n.*row = 1; .*",
-     "the compiler looks at the rows, which are right"),
-    ("AdaValues.cpp", "comparison", r"constexpr bool EachKindHasItsRow.*\n.*row <= kOther; .*",
-     "the compiler looks at the rows, which are right"),
-    ("AdaValues.cpp", "constant", r"\{1, nullptr, .*", "the last row stands for all other kinds"),
-    ("Expression.cpp", "comparison", r"SINGLE_FLOAT_NUMBER <= FLOAT_NUMBER\);",
-     "the compiler looks at the order, which is right"),
-    ("WidgetUtils.cpp", "text", r'\{"\w+", nullptr\},',
-     "a name without a function or a constant is answered like one that is not in the table"),
-    # Descriptors 0, 1 and 2 are taken before anything is opened.
-    ("Driver.cpp", "comparison", r"if \(descriptor > 0\) \{", "the loop before ends behind 2"),
-    ("Driver.cpp", "constant", r"if \(descriptor >= 1\) \{", "the loop before ends behind 2"),
-    ("Convert.cpp", "comparison", r"listing_fp = descriptor <= 0 \? nullptr : .*",
-     "the main source, opened before, would have 0"),
-    ("Convert.cpp", "constant", r"listing_fp = descriptor < 1 \? nullptr : .*",
-     "the main source, opened before, would have 0"),
-    ("Convert.cpp", "comparison", r"if \(listing_fp == nullptr && descriptor > 0\) \{",
-     "the main source, opened before, would have 0"),
-    ("Convert.cpp", "constant", r"if \(listing_fp == nullptr && descriptor >= 1\) \{",
-     "the main source, opened before, would have 0"),
-    ("Output.cpp", "comparison", r"open\(beside.c_str\(\), .*\n\s*if \(descriptor <= 0\) \{",
-     "the temporary file, opened before, would have 0"),
-    ("Output.cpp", "constant", r"open\(beside.c_str\(\), .*\n\s*if \(descriptor < 1\) \{",
-     "the temporary file, opened before, would have 0"),
-    ("Output.cpp", "comparison",
-     r"if \(entry == nullptr \|\| name.size\(\) > entry->text.size\(\)\) \{",
-     "the system makes no file whose name is as long as that"),
-    ("Output.cpp", "constant", r"const mode_t mask = umask\(1\);", "the mask is put back at once"),
-    ("Output.cpp", "constant", r"std::string name = path.substr\(0, path.rfind\('/'\) \+ 2\);",
-     "the name beside a file may begin with a letter of it"),
-    ("Output.cpp", "constant", r"if \(entry.text\[1\] != '\\0'\) \{",
-     "no temporary name is that short"),
-    # Neither of the two depends on the other.
-    ("Options.cpp", "order", r'\{"-\w+", OptionMatch::kExact, .*,\s+\{"-\w+", OptionMatch::kE.*',
-     "a word is no two of them"),
-    ("Listing.cpp", "order", r"RowPut\(row, .*;\s+RowPut\(row, .*;",
-     "the two parts of such a row do not overlap"),
-]
+# Changes of which nothing can be seen, by the reason: (expression for the source, kind, expression
+# for the lines after the change, without the blanks around them).  The latter expression may begin
+# with the line before those.  Each entry names a change that is made, or the run ends at once.
+UNSEEN = {
+    "all texts are spread alike": [
+        ("Hash.cpp", "constant", r"hash \^= hash >> 3[34];"),
+        ("Hash.cpp", "constant", r"return static_cast<std::uint32_t>\(hash >> 33\);"),
+        ("Hash.cpp", "constant", r"std::uint64_t word = 1;"),
+        ("Hash.cpp", "comparison", r"for \(std::size_t i = 0; i <= length - sizeof\(word\); .*"),
+        ("Hash.cpp", "comparison", r"if \(length <= sizeof\(word\)\) \{"),
+    ],
+    "without an index nobody asks for the tag": [
+        ("Hash.cpp", "constant", r"return table.index.compare == nullptr \? 1 : .*"),
+    ],
+    "the index only grows sooner": [
+        ("(Hash|List).cpp", "constant", r"if \(index.(count|used) < index.size / 3\) \{"),
+    ],
+    "walking and the index find the same": [
+        ("List.cpp", "constant", r"constexpr std::uint32_t kIndexedLength = 17;.*"),
+        ("List.cpp", "comparison", r"if \(list->nitems < kIndexedLength \|\| .*"),
+    ],
+    "the text has the length that was counted before": [
+        ("Emit.cpp", "constant", r"std::vsnprintf\(text.data\(\), text.size\(\) \+ 2, .*"),
+    ],
+    "what has no room is written at once": [
+        ("Emit.cpp", "constant", r"constexpr std::size_t kUnitText(Size|s) = (\d+ << )?\d+;.*"),
+    ],
+    "a stream without a buffer has none of any size": [
+        ("Emit.cpp", "constant", r"if \(.* && std::setvbuf\(file, nullptr, _IONBF, 1\) == 0\) \{"),
+    ],
+    "what just fits may as well stand behind a flush": [
+        ("Emit.cpp", "comparison", r"if \(buffer != nullptr && room >= .*"),
+    ],
+    "what just fits may as well pass, behind a flush": [
+        ("Emit.cpp", "comparison", r"return buffer == nullptr \|\| room >= kUnitTextSize \? .*"),
+    ],
+    "a prefix has no more than eight characters": [
+        ("Listing.cpp", "text", r'prefix = std::string_view\(" {9}"\)\.substr\(.*'),
+        ("Listing.cpp", "constant", r'prefix = std::string_view\(" {10}"\)\.substr\(1, .*'),
+    ],
+    "a file is read on until it ends": [
+        ("Files.cpp", "constant",
+         r"constexpr (int|std::size_t) k(ScannerBufferSize|CopyBlock) = \d+;"),
+    ],
+    "it is room, not length": [
+        ("Alloc.cpp", "constant", r"const std::size_t size = std::strlen\(str\) \+ 2;"),
+        ("AdaWideCharacter.cpp", "constant",
+         r"std::vector<wchar_t> wide\(std::strlen\(text\) \+ 2\);"),
+        ("Listing.cpp", "constant", r"result.reserve\(.*EncodedLength\(text, length\)\) \+ 4\);"),
+        ("Listing.cpp", "constant", r"std::array<char, 5> octal\{\};"),
+        ("AdaString.cpp", "constant", r"constexpr std::size_t kTypicalExtra = 65;"),
+        ("Alloc.cpp", "constant", r"std::array<SizeClass, kLargestSmall / kUnit \+ 2> classes;"),
+        ("Listing.cpp", "constant", r"std::array<char, 25> prefix\{\};"),
+        ("Listing.cpp", "constant", r"constexpr std::size_t kDateSize = 257;.*"),
+        ("Listing.cpp", "constant", r"const std::int64_t need = .*length \+ 2;"),
+        ("Model.cpp", "constant", r"char \*copy = .*ModelAllocate\(text.size\(\) \+ 2\)\);"),
+        ("Initialize.cpp", "constant", r".*\(ModelAllocate\(\(count \+ 2\) \* sizeof.*"),
+        ("ParseModule.cpp", "constant", r"constexpr std::size_t kLongestNumber = 401;.*"),
+        ("ParseValues.cpp", "constant",
+         r"const std::size_t capacity = (3 \* length \+ 1|2 \* length \+ 2);"),
+    ],
+    "the size is rounded up to 12 in any case": [
+        ("Listing.cpp", "constant",
+         r"auto \*text = static_cast<char \*>\(_SmartMalloc\(2, &size\)\);"),
+        ("Scanner.cpp", "constant", r"lit_buffer = .*\(_SmartMalloc\(2, &lit_bufsiz\)\);"),
+    ],
+    "the allocation sets it, and without memory the run ends": [
+        ("Listing.cpp", "constant", r"std::size_t size = 1;"),
+    ],
+    "a line only grows sooner": [
+        ("Listing.cpp", "constant", r".*std::max\(need, std::int64_t\{line->maxlen\} \* 3\).*"),
+    ],
+    "the bound only keeps sums of lengths within an int": [
+        ("Listing.cpp", "constant",
+         r"return .*\(std::min<std::size_t>\(text.size\(\), INT_MAX / 5\)\);"),
+    ],
+    "both are rounded up to 8": [
+        ("Alloc.cpp", "constant", r"size = std::max<std::size_t>\(size, 2\);"),
+    ],
+    "the size is set behind it": [
+        ("Alloc.cpp", "constant", r".*: new \(run_next\) PageHeader\{nullptr, nullptr, 1\};"),
+    ],
+    "the size is set when the page is taken": [
+        ("Alloc.cpp", "constant", r"PageHeader \*first = PageCreate\(.*, 1\);"),
+    ],
+    "so many pages are only asked for together": [
+        ("Alloc.cpp", "constant",
+         r"constexpr std::size_t kRunPages = kSanitized \? (1 : 17|2 : 16);.*"),
+    ],
+    "it is set before it is asked": [
+        ("Files.cpp", "constant", r"std::size_t count = 1;"),
+    ],
+    "takes a line of 2 GB": [
+        ("Listing.cpp", "comparison", r"if \(need >= kLongest\) \{"),
+        ("Listing.cpp", "constant", r"constexpr std::int64_t kLongest = INT_MAX - 65;.*"),
+    ],
+    "the numbers only differ from each other": [
+        ("AdaWidgetProcs.cpp", "constant", r"static std::uint32_t widget_table_number = 1;.*"),
+    ],
+    "no list in a list is missing": [
+        ("WidgetUtils.cpp", "constant", r"if \(source == nullptr\) \{\n\s*return 1;"),
+        ("WidgetUtils.cpp", "constant", r"items = list == nullptr \? 1 : list->note / kCountUnit;"),
+    ],
+    "only a sanitizer looks at what is hidden": [
+        ("Alloc.cpp", "constant", r"ALLOC_HIDE\(page \+ 2, room\);"),
+        ("Alloc.cpp", "constant", r"constexpr std::size_t kRedZone = kSanitized \? 17 : 0;.*"),
+    ],
+    "no system has as much": [
+        ("Alloc.cpp", "comparison", r"if \(size >= SIZE_MAX - 19\) \{"),
+        ("Alloc.cpp", "constant", r"if \(size > SIZE_MAX - 20\) \{"),
+        ("Alloc.cpp", "comparison",
+         r"if \(room >= SIZE_MAX - sizeof\(PageHeader\) - kPageSize\) \{"),
+    ],
+    "the ring itself has no blocks": [
+        ("Alloc.cpp", "constant", r"PageHeader ring = \{&ring, &ring, 1\};"),
+    ],
+    "the next node of the key is then looked for in vain": [
+        ("List.cpp", "constant", r"slot = \{node, tag, 2\};"),
+    ],
+    "that bit is set in every note": [
+        ("WidgetUtils.cpp", "constant", r"return \{list, list->first, 0, 1\};"),
+    ],
+    "every negative number is without end": [
+        ("Alloc.cpp", "constant", r"(long )?allocations_left = (fails_once \? )?-2.*"),
+    ],
+    "any number above what is allowed will do": [
+        ("TreeCheck.cpp", "constant",
+         r"(sum->|static_cast).*std::min\(.*kMax(Hierarchy|ControlDepth) \+ 2\).*"),
+        ("WidgetUtils.cpp", "constant",
+         r"constexpr std::uint32_t kTooMany = kMaxFlatItems \+ 2;.*"),
+    ],
+    "takes a text of 2 GB": [
+        ("Scanner.cpp", "comparison", r"if \(need >= INT_MAX\) \{"),
+    ],
+    "every number above 1 says as much": [
+        ("Options.cpp", "constant", r"constexpr int kVerbose = 3;"),
+    ],
+    "the part from the end on is empty, too": [
+        ("Types.cpp", "comparison", r"return from > text.size\(\) \? std::string_view\(\)"),
+    ],
+    "a copy of a list without items has none either": [
+        ("WidgetUtils.cpp", "constant", r".*\n\s*return ListLength\(source\) == 1;"),
+    ],
+    "the first to be asked for is found in either case": [
+        ("Emit.cpp", "constant", r"static EmitBuffer \*recent = &unit_texts\[1\].buffer;"),
+    ],
+    "only a sanitizer sees the one byte more that is read": [
+        ("Hash.cpp", "constant", r"const std::size_t size = std::strlen\(key\) \+ 2;"),
+    ],
+    "no line begins with a blank": [
+        ("ConfigFile.cpp", "constant", r"for \(std::size_t i = 2; i < line.size\(\); \+\+i\) \{"),
+    ],
+    "the zero byte behind the line is no option": [
+        ("ConfigFile.cpp", "comparison",
+         r"for \(std::size_t i = 1; i <= line.size\(\); \+\+i\) \{"),
+    ],
+    "nobody asks for the kind of a shell": [
+        ("WidgetUtils.cpp", "constant", r"auto \*info = ModelNew<Kivu_ShellInfo>\(1\);"),
+    ],
+    "a name that is legal as it stands is left so with or without a copy": [
+        ("WidgetUtils.cpp", "comparison", r"for \(; \*name == '\\0'; \+\+name\) \{"),
+    ],
+    "what was read whole was read without an error": [
+        ("Files.cpp", "comparison", r"if \(count <= size && std::ferror\(file->fp\) != 0\) \{"),
+    ],
+    "when both sides are equal the sum is the largest number": [
+        ("WidgetUtils.cpp", "comparison", r"total = below >= kLargestCount - total \? .*"),
+        ("AdaWidgetProcs.cpp", "comparison",
+         r"return size >= largest - offset \? largest : offset .*"),
+    ],
+    "a copy of the list has the same items": [
+        ("WidgetUtils.cpp", "comparison", r"return items == 0 \|\| \(items < kMaxFlatItems && .*"),
+    ],
+    "the zero byte behind the name is not kept": [
+        ("WidgetUtils.cpp", "comparison",
+         r"for \(std::size_t i = 0; i <= name->size\(\); \+\+i\) \{"),
+    ],
+    "a row as long as that stays so": [
+        ("Listing.cpp", "comparison", r"if \(row.size\(\) <= column \+ part.size\(\)\) \{"),
+    ],
+    "nobody asks for the node before": [
+        ("List.cpp", "comparison", r"\*prev = found != list->traverse \? .*"),
+    ],
+    "what a line of a file uses up is not counted": [
+        ("Options.cpp", "constant",
+         r"(ErrorMessage\(.*cannot contain -cfg|std::for_each\(.*Generics).*"
+         r"\n\s*return 1;"),
+    ],
+    "behind the last word nothing is left to be lost": [
+        ("Options.cpp", "constant", r"if \(words.rest.empty\(\)\) \{\n\s*return 1;"),
+    ],
+    "two top-level objects have names that differ in more than case": [
+        ("AdaWidgets.cpp", "constant",
+         r".*SafeStrcmp\(record->rec, current_top_level->name, case_sensitive \? 1 : 1\).*"),
+    ],
+    "no block begins at an odd address": [
+        ("Alloc.cpp", "constant", r"const std::uintptr_t offset = .* & \(kPageSize - 2\);"),
+    ],
+    "the scanner then goes back by itself": [
+        ("lex.l", "constant", r"\[\+-\]\?.*LessExponent\(\).*"),
+    ],
+    "every number but 0 says that case counts": [
+        ("(AdaWidgetProcs|AdaWidgets|Hash|List|WidgetUtils).cpp", "constant",
+         r".*SafeStrcmp\(.*(, 2|\? 2 : 0)\).*"),
+    ],
+    "a run begins with a reset": [
+        ("Convert.cpp", "constant", r"static int error_count = 1;.*"),
+    ],
+    "a row without a column is made longer by its number": [
+        ("Listing.cpp", "constant", r"return std::string\(.*\(std::max\(width, 1\)\), ' '\);"),
+    ],
+    "nothing is dropped left of column 0": [
+        ("Listing.cpp", "comparison", r"if \(start <= 0\) \{"),
+        ("Listing.cpp", "constant", r"if \(start < 1\) \{"),
+    ],
+    "a single character may take the way of a line's end": [
+        ("Listing.cpp", "constant", r"if \(line == nullptr \|\| length <= 1 .*"),
+    ],
+    "the scanner only asks whether it is 0": [
+        ("lex.l", "constant", r'extern "C" int yywrap\(\) \{ .* \? 2 : 0; \}'),
+    ],
+    "a font and a font set are copied alike": [
+        ("ParseValues.cpp", "comparison", r"return font.kind != FONT \? FontCopy\(.*"),
+    ],
+    "it is set in either case": [
+        ("WidgetUtils.cpp", "constant", r"std::uint32_t items = 1;"),
+    ],
+    "the compiler looks at the rows, which are right": [
+        ("AdaValues.cpp", "constant", r"constexpr bool EachKindHasItsRow.*\n.*row = 1; .*"),
+        ("AdaValues.cpp", "comparison", r"constexpr bool EachKindHasItsRow.*\n.*row <= kOther; .*"),
+    ],
+    "the last row stands for all other kinds": [
+        ("AdaValues.cpp", "constant", r"\{1, nullptr, .*"),
+    ],
+    "the compiler looks at the order, which is right": [
+        ("Expression.cpp", "comparison", r"SINGLE_FLOAT_NUMBER <= FLOAT_NUMBER\);"),
+    ],
+    "a name without a function or a constant is answered like one that is not in the table": [
+        ("WidgetUtils.cpp", "text", r'\{"\w+", nullptr\},'),
+    ],
+    "the loop before ends behind 2": [
+        ("Driver.cpp", "comparison", r"if \(descriptor > 0\) \{"),
+        ("Driver.cpp", "constant", r"if \(descriptor >= 1\) \{"),
+    ],
+    "the main source, opened before, would have 0": [
+        ("Convert.cpp", "comparison", r"listing_fp = descriptor <= 0 \? nullptr : .*"),
+        ("Convert.cpp", "constant", r"listing_fp = descriptor < 1 \? nullptr : .*"),
+        ("Convert.cpp", "comparison", r"if \(listing_fp == nullptr && descriptor > 0\) \{"),
+        ("Convert.cpp", "constant", r"if \(listing_fp == nullptr && descriptor >= 1\) \{"),
+    ],
+    "the temporary file, opened before, would have 0": [
+        ("Output.cpp", "comparison", r"open\(beside.c_str\(\), .*\n\s*if \(descriptor <= 0\) \{"),
+        ("Output.cpp", "constant", r"open\(beside.c_str\(\), .*\n\s*if \(descriptor < 1\) \{"),
+    ],
+    "the system makes no file whose name is as long as that": [
+        ("Output.cpp", "comparison",
+         r"if \(entry == nullptr \|\| name.size\(\) > entry->text.size\(\)\) \{"),
+    ],
+    "the mask is put back at once": [
+        ("Output.cpp", "constant", r"const mode_t mask = umask\(1\);"),
+    ],
+    "the name beside a file may begin with a letter of it": [
+        ("Output.cpp", "constant", r"std::string name = path.substr\(0, path.rfind\('/'\) \+ 2\);"),
+    ],
+    "no temporary name is that short": [
+        ("Output.cpp", "constant", r"if \(entry.text\[1\] != '\\0'\) \{"),
+    ],
+    "a word is no two of them": [
+        ("Options.cpp", "order",
+         r'\{"-\w+", OptionMatch::kExact, .*,\s+\{"-\w+", OptionMatch::kE.*'),
+    ],
+    "the two parts of such a row do not overlap": [
+        ("Listing.cpp", "order", r"RowPut\(row, .*;\s+RowPut\(row, .*;"),
+    ],
+}
 
 # A literal, a comment, a preprocessor line, or any one character.
 TOKEN = re.compile(
@@ -399,8 +470,8 @@ def unseen_entry(mutant, text):
     """The entry of UNSEEN that names the change, or None."""
     number, _, after = lines_around(mutant, text)
     with_previous = text.split("\n")[number - 2].strip() + "\n" + after.strip()
-    for entry in UNSEEN:
-        name, kind, lines, _ = entry
+    for entry in itertools.chain(*UNSEEN.values()):
+        name, kind, lines = entry
         if mutant.kind == kind and re.fullmatch(name, mutant.path.name) and (
                 re.fullmatch(lines, after.strip()) or re.fullmatch(lines, with_previous)):
             return entry
@@ -417,7 +488,7 @@ def places_of(texts, unseen):
             named.add(entry)
             if (entry is not None) == unseen:
                 places[mutant.kind].append(mutant)
-    return places, [entry for entry in UNSEEN if entry not in named]
+    return places, [entry for entry in itertools.chain(*UNSEEN.values()) if entry not in named]
 
 
 # -- Building and running -------------------------------------------------------------------------
